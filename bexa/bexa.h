@@ -1,0 +1,5 @@
+#pragma once
+
+// Every public header of the library.
+#include "bexa/export.h"
+#include "bexa/version.h"
