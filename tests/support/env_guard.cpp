@@ -21,7 +21,8 @@ void change(const std::string& name, const std::optional<std::string>& value) {
 }
 
 EnvGuard::EnvGuard(std::string name, const std::optional<std::string>& value)
-    : name_(std::move(name)), before_(valueOf(name_)) {
+    : name_(std::move(name)),
+      before_(valueOf(name_)) {
     change(name_, value);
 }
 
