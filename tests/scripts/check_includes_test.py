@@ -28,6 +28,7 @@ ARROWS = [
     ("foundation/ymessage/catalogue.cpp", "foundation/yrsc/keyed_file.h", True),
     ("foundation/yrsc/keyed_file.cpp", "foundation/ymessage/catalogue.h", False),
     ("foundation/array_family.h", "foundation/ycore/arrays.h", False),
+    ("foundation/array_family.h", "foundation/ycore/array_find.h", True),
     ("foundation/kanji_bytes.h", "foundation/text_cursor.h", True),
     ("store/file.h", "foundation/missing.h", False),
 ]

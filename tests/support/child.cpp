@@ -22,7 +22,7 @@ bool becomeNobody() {
            ::setuid(nobody->pw_uid) == 0;
 }
 
-}
+} // namespace
 
 Child::~Child() {
     if (process_) wait();
@@ -93,4 +93,4 @@ bool Child::prepare() const {
     return false;
 }
 
-}
+} // namespace bexa::test

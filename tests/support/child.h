@@ -50,4 +50,4 @@ private:
     pid_t process_ = 0;
 };
 
-}
+} // namespace bexa::test

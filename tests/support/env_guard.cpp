@@ -18,7 +18,7 @@ void change(const std::string& name, const std::optional<std::string>& value) {
         ::unsetenv(name.c_str());
 }
 
-}
+} // namespace
 
 EnvGuard::EnvGuard(std::string name, const std::optional<std::string>& value)
     : name_(std::move(name)),
@@ -38,4 +38,4 @@ void EnvGuard::unset() const {
     change(name_, std::nullopt);
 }
 
-}
+} // namespace bexa::test

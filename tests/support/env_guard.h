@@ -23,4 +23,4 @@ private:
     std::optional<std::string> before_;
 };
 
-}
+} // namespace bexa::test

@@ -43,4 +43,4 @@ std::string testData(std::string_view name) {
     return std::string(BEXA_TEST_DATA) + '/' + std::string(name);
 }
 
-}
+} // namespace bexa::test

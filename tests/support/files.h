@@ -18,4 +18,4 @@ void setMode(const std::string& path, unsigned mode);
 // The path of a file in tests/data.
 std::string testData(std::string_view name);
 
-}
+} // namespace bexa::test

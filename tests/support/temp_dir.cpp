@@ -26,7 +26,7 @@ void giveBackPermissions(const fs::path& directory) {
         if (!entry.is_symlink(ignored) && entry.is_directory(ignored)) giveBackPermissions(entry.path());
 }
 
-}
+} // namespace
 
 TempDir::TempDir() : path_(uniqueDirectory()) {
     fs::permissions(path_, fs::perms(0755));
@@ -48,4 +48,4 @@ void TempDir::openToAll() const {
     fs::permissions(path_, fs::perms::all);
 }
 
-}
+} // namespace bexa::test

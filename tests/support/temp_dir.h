@@ -27,4 +27,4 @@ private:
     std::string path_;
 };
 
-}
+} // namespace bexa::test
