@@ -1,8 +1,9 @@
-// The one growable array of the library, and the stack on top of it. Every `..._Array`, `..._Table` and `..._Stack`
-// is an instance with a name of its own.
+// The one growable array of the library, and the stack on top of it. Every `..._Array`, `..._Table` and
+// `..._Stack` is an instance with a name of its own.
 //
-// The odd edges are deliberate and shared by all instances: reading past the end through `[]` extends the array,
-// `end()` adds an element, an index equal to the count is accepted by `remove`, `insertBefore` and `insertAfter`.
+// The odd edges are deliberate and shared by all instances: reading past the end through `[]` extends the
+// array, `end()` adds an element, an index equal to the count is accepted by `remove`, `insertBefore` and
+// `insertAfter`.
 #pragma once
 
 #include "bexa/foundation/ycore/array_find.h"
@@ -22,11 +23,11 @@ namespace bexa {
 
 namespace detail {
 
-// An element whose bytes may be moved to another place without telling it: plain data, and each class that says so
-// by naming itself in `BytesMayMove`. A derived class doesn't inherit the promise.
+// An element whose bytes may be moved to another place without telling it: plain data, and each class that
+// says so by naming itself in `BytesMayMove`. A derived class doesn't inherit the promise.
 template <class T>
 concept BytesMayMove = std::is_trivially_copyable_v<T> ||
-                       (requires { typename T::BytesMayMove; } && std::is_same_v<typename T::BytesMayMove, T>);
+    (requires { typename T::BytesMayMove; } && std::is_same_v<typename T::BytesMayMove, T>);
 
 // Lets the tests of the family see the capacity.
 struct ArrayProbe;
@@ -70,8 +71,8 @@ public:
     operator T*() const noexcept { return items_; } // NOLINT(google-explicit-constructor): callers rely on it
     T* operator()() const noexcept { return items_; }
 
-    // The element at `index`, growing the array when the index lies at or beyond the end. Kept on purpose: reading
-    // past the end extends the array. A negative index is the caller's mistake and not checked.
+    // The element at `index`, growing the array when the index lies at or beyond the end. Kept on purpose:
+    // reading past the end extends the array. A negative index is the caller's mistake and not checked.
     template <std::integral Index>
     T& operator[](Index index) {
         const int place = std::cmp_less(index, INT_MAX) ? static_cast<int>(index) : INT_MAX;
@@ -80,11 +81,12 @@ public:
     // The element at `index`, with no check at all.
     T& at(int index) const noexcept { return items_[index]; }
 
-    // Kept on purpose: adds one element and returns it. The way to append by reference, not a past-the-end mark.
+    // Kept on purpose: adds one element and returns it. The way to append by reference, not a past-the-end
+    // mark.
     T& end() { return bumpsize(count_); }
 
-    // Sets the count; a negative one counts as 0. The capacity covers one element more than asked. Elements that a
-    // smaller count drops stay allocated and come back as they were when the array grows again.
+    // Sets the count; a negative one counts as 0. The capacity covers one element more than asked. Elements
+    // that a smaller count drops stay allocated and come back as they were when the array grows again.
     void resize(int count) {
         count = std::max(count, 0);
         provide(count);
@@ -92,8 +94,8 @@ public:
         count_ = count;
     }
 
-    // False for an index that is negative or above the count, and on an array without elements. Kept on purpose:
-    // an index equal to the count drops the last element.
+    // False for an index that is negative or above the count, and on an array without elements. Kept on
+    // purpose: an index equal to the count drops the last element.
     unsigned long remove(int index) {
         if (index < 0 || index > count_ || count_ == 0) return 0;
         // The last element is copied, not moved: it comes back when the array grows again.
@@ -127,9 +129,9 @@ public:
         return 1;
     }
 
-    // Puts a copy of `element` behind `index`. False for an index that is negative or above the count. Kept on
-    // purpose: with an index equal to the count the count grows by one, but the element lands one place further, so
-    // that the new last element is a default one.
+    // Puts a copy of `element` behind `index`. False for an index that is negative or above the count. Kept
+    // on purpose: with an index equal to the count the count grows by one, but the element lands one place
+    // further, so that the new last element is a default one.
     unsigned long insertAfter(int index, const T& element) {
         if (index < 0 || index > count_) return 0;
         if (holds(element)) return insertAfter(index, T(element));
@@ -149,15 +151,16 @@ public:
                          [compare](const T& a, const T& b) { return compare(&a, &b) < 0; });
     }
 
-    // Inserts into an array sorted by `compare`; `mode` is a YArrayFindMode. False when the mode refuses an element
-    // that is there already.
+    // Inserts into an array sorted by `compare`; `mode` is a YArrayFindMode. False when the mode refuses an
+    // element that is there already.
     unsigned long insertSorted(const T& element, Compare compare, unsigned long mode) {
-        const int index = YArrayBinFind(&element, items_, static_cast<unsigned>(count_), sizeof(T), compare, mode);
+        const int index =
+            YArrayBinFind(&element, items_, static_cast<unsigned>(count_), sizeof(T), compare, mode);
         return index == -1 ? 0 : insertBefore(index, element);
     }
 
-    // The index of an element that equals the key, or -1. The array must be sorted by the same `compare`, which gets
-    // the key first.
+    // The index of an element that equals the key, or -1. The array must be sorted by the same `compare`,
+    // which gets the key first.
     int search(const void* key, Compare compare) const {
         if (count_ == 0) return -1;
         const void* found = std::bsearch(key, items_, static_cast<std::size_t>(count_), sizeof(T), compare);
@@ -192,7 +195,8 @@ private:
         return items_[index];
     }
 
-    // Grows the memory so that `index` has a place. Small arrays double; from the step on growth is by the step.
+    // Grows the memory so that `index` has a place. Small arrays double; from the step on growth is by the
+    // step.
     void provide(int index) {
         if (index < capacity_) return;
         const long long grown = static_cast<long long>(std::clamp(capacity_, 1, MaxStep)) + index;
@@ -256,8 +260,8 @@ public:
         return 1;
     }
 
-    // Takes the element on top away and returns it. Kept on purpose: an empty stack returns the first element of its
-    // array and moves nothing; one that never held anything returns a default element.
+    // Takes the element on top away and returns it. Kept on purpose: an empty stack returns the first element
+    // of its array and moves nothing; one that never held anything returns a default element.
     Element pop() {
         if (top_ > 0) --top_;
         return elementAt(top_);

@@ -63,7 +63,8 @@ void YtString::replace(std::string_view text) {
 void YtString::append(std::string_view text) {
     if (text.empty()) return;
     const char* begin = data();
-    const bool inside = std::greater_equal<>()(text.data(), begin) && std::less_equal<>()(text.data(), begin + length_);
+    const bool inside =
+        std::greater_equal<>()(text.data(), begin) && std::less_equal<>()(text.data(), begin + length_);
     const std::size_t offset = inside ? static_cast<std::size_t>(text.data() - begin) : 0;
     reserve(length_ + text.size());
     std::memmove(data() + length_, inside ? data() + offset : text.data(), text.size());

@@ -13,9 +13,9 @@
 
 // The read-only face of a text: its bytes, comparison and hash. Made and changed through `YString`.
 //
-// The text is counted, so a NUL byte in it is kept, and always terminated, so a reader of the C text sees the part
-// before the first NUL. Short texts live inside the object; no object points into itself, so an array may move
-// the bytes of its texts.
+// The text is counted, so a NUL byte in it is kept, and always terminated, so a reader of the C text sees the
+// part before the first NUL. Short texts live inside the object; no object points into itself, so an array
+// may move the bytes of its texts.
 class BEXA_API YtString {
 public:
     YtString() noexcept { clear(); }
@@ -46,7 +46,8 @@ public:
     ~YtString() { release(); }
 
     // The terminated text, never null. Valid until the text is changed or ends.
-    operator const char*() const noexcept { return data(); } // NOLINT(google-explicit-constructor): callers rely on it
+    // NOLINTNEXTLINE(google-explicit-constructor): callers rely on it
+    operator const char*() const noexcept { return data(); }
     std::string_view view() const noexcept { return {data(), length_}; }
     int length() const noexcept { return static_cast<int>(length_); }
 
@@ -158,7 +159,8 @@ public:
         return '\0';
     }
 
-    // The first, or the last, place of `c` at or behind `start`; -1 if there is none. A negative start counts as 0.
+    // The first, or the last, place of `c` at or behind `start`; -1 if there is none. A negative start counts
+    // as 0.
     int index(char c, int start = 0) const noexcept;
     int rindex(char c, int start = 0) const noexcept;
 
