@@ -1,0 +1,7 @@
+#include <cstdio>
+
+#include <bexa/bexa.h>
+
+int main() {
+    std::puts(BexVersion());
+}
