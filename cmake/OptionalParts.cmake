@@ -1,34 +1,31 @@
 # Which parts besides the library are built. A part that nobody asked for is built if this is the top
-# project and its package is there, and is left out with a message otherwise; a part that was asked for
+# project and the packages it needs are there, and is left out with a message otherwise. A part asked for
 # with -DBEXA_BUILD_...=ON is built, and a missing package is an error.
-function(bexa_optional_part part package)
+#
+# To add a package: its name here, find_package where it is used, and its Debian name in scripts/setup.
+
+# bexa_optional_part(PART package ...)
+function(bexa_optional_part part)
   set(option_name "BEXA_BUILD_${part}")
   if(DEFINED ${option_name})
-    set(asked_for TRUE)
-  else()
-    set(asked_for FALSE)
+    return()
   endif()
 
-  set(available ${PROJECT_IS_TOP_LEVEL})
-  if(package AND (PROJECT_IS_TOP_LEVEL OR asked_for))
-    if(asked_for AND ${option_name})
-      find_package(${package} REQUIRED)
-    elseif(NOT asked_for)
-      find_package(${package} QUIET)
-      set(available ${${package}_FOUND})
-      if(NOT available)
-        message(STATUS "bexa: ${package} not found, leaving out what ${option_name} stands for")
-      endif()
+  # Not cached: what is installed later is noticed by the next configure.
+  set(${option_name} ${PROJECT_IS_TOP_LEVEL} PARENT_SCOPE)
+  if(NOT PROJECT_IS_TOP_LEVEL)
+    return()
+  endif()
+  foreach(package IN LISTS ARGN)
+    find_package(${package} QUIET)
+    if(NOT ${package}_FOUND)
+      message(STATUS "bexa: no ${package}, leaving out what ${option_name} stands for")
+      set(${option_name} OFF PARENT_SCOPE)
     endif()
-  endif()
-
-  # Remembered only if asked for: a package installed later is noticed by the next configure.
-  if(NOT asked_for)
-    set(${option_name} ${available} PARENT_SCOPE)
-  endif()
+  endforeach()
 endfunction()
 
 bexa_optional_part(TOOLS CLI11)
-bexa_optional_part(TESTS GTest)
-bexa_optional_part(EXAMPLES "")
+bexa_optional_part(TESTS GTest Python3)
+bexa_optional_part(EXAMPLES)
 bexa_optional_part(BENCH benchmark)
