@@ -30,6 +30,10 @@ ARROWS = [
     ("foundation/array_family.h", "foundation/ycore/arrays.h", False),
     ("foundation/array_family.h", "foundation/ycore/array_find.h", True),
     ("foundation/kanji_bytes.h", "foundation/text_cursor.h", True),
+    ("foundation/kanji_bytes.cpp", "foundation/kanji.h", False),
+    ("foundation/ycore/file_access.cpp", "foundation/os.h", True),
+    ("foundation/os_posix.cpp", "foundation/os.h", True),
+    ("foundation/os_posix.cpp", "foundation/ycore/file_access.h", False),
     ("store/file.h", "foundation/missing.h", False),
 ]
 
