@@ -25,7 +25,7 @@ bool becomeNobody() {
 } // namespace
 
 Child::~Child() {
-    if (process_) wait();
+    if (process_) ::waitpid(process_, nullptr, 0);
 }
 
 Child::Child(Child&& other) noexcept
@@ -56,12 +56,14 @@ int Child::run(const std::function<int()>& body) {
 void Child::start(const std::function<int()>& body) {
     if (process_) throw std::logic_error("this child is running already");
     std::fflush(nullptr);
-    process_ = ::fork();
-    if (process_ < 0) throw std::runtime_error("cannot fork");
-    if (process_ == 0) live(body);
+    const pid_t process = ::fork();
+    if (process < 0) throw std::runtime_error("cannot fork");
+    if (process == 0) live(body);
+    process_ = process;
 }
 
 int Child::wait() {
+    if (!process_) throw std::logic_error("this child was not started");
     int status = 0;
     while (::waitpid(process_, &status, 0) < 0)
         if (errno != EINTR) throw std::runtime_error("no child to wait for");

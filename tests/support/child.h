@@ -31,8 +31,9 @@ public:
     Child& with(std::string name, std::string value);
     Child& without(std::string name);
 
-    // Start the child, and wait for its exit status.
+    // Starts the child and waits for its exit status.
     int run(const std::function<int()>& body);
+    // The two halves of run, for several children at once.
     void start(const std::function<int()>& body);
     int wait();
 

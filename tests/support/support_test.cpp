@@ -57,6 +57,13 @@ TEST(ChildFixture, ItsStatusComesBack) {
     EXPECT_EQ(Child().run([]() -> int { return ::raise(SIGKILL); }), Child::signalled);
 }
 
+TEST(ChildFixture, SeveralRunAtOnce) {
+    std::vector<Child> children(3);
+    for (Child& child : children) child.start([] { return 3; });
+    for (Child& child : children) EXPECT_EQ(child.wait(), 3);
+    EXPECT_THROW(children[0].wait(), std::logic_error);
+}
+
 TEST(ChildFixture, SeesItsOwnEnvironment) {
     const EnvGuard taken("BEXA_TEST_TAKEN", "x");
     const auto body = [] {
