@@ -1,7 +1,9 @@
 // Everything that the operating systems do differently. One source for each system; nothing else in the
-// library asks the system directly. A null path is a path where nothing is.
+// library asks the system directly, save Ystat, whose result is the system's own. A null path is a path where
+// nothing is.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -40,7 +42,7 @@ public:
 
 private:
     struct State;
-    State* state_;
+    std::unique_ptr<State> state_;
 };
 
 // The bytes of a regular file. False, with `content` empty, for a directory or anything else that is no file,
