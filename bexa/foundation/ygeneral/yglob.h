@@ -23,6 +23,8 @@ protected:
     struct Item {
         enum Kind { Run, OneOf, NoneOf } kind;     // Run: any characters, also none
         std::vector<std::pair<Code, Code>> ranges; // first and last character
+
+        bool takes(Code character) const;
     };
 
     YRegexp() = default;
