@@ -1,0 +1,3 @@
+#include "bexa/foundation/ygeometry/ygeo_figure.h"
+
+YgeoFigure::~YgeoFigure() = default;
