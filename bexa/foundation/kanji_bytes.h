@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace bexa::detail {
@@ -70,6 +71,33 @@ constexpr std::string_view cutToSize(std::string_view text, std::size_t size, co
         if (end + length > size) return text.substr(0, end);
         end += length;
     }
+}
+
+// A character of two bytes.
+struct BytePair {
+    unsigned char first;
+    unsigned char second;
+    constexpr bool operator==(const BytePair&) const = default;
+};
+
+// The same place of JIS X 0208 in the other coding. Both tables have 94 rows of 94; EUC has a lead byte for each row,
+// Shift-JIS one for two rows, and skips 0xA0 to 0xDF as lead and 0x7F as second byte. Nothing for bytes outside.
+constexpr std::optional<BytePair> shiftJisToEuc(BytePair pair) {
+    const bool lead =
+        (pair.first >= 0x81 && pair.first <= 0x9F) || (pair.first >= 0xE0 && pair.first <= 0xEF);
+    if (!lead || pair.second < 0x40 || pair.second == 0x7F || pair.second > 0xFC) return std::nullopt;
+    const int rows = 2 * (pair.first - (pair.first < 0xA0 ? 0x81 : 0xC1));
+    const int place = pair.second - (pair.second < 0x7F ? 0x40 : 0x41);
+    return BytePair{static_cast<unsigned char>(0xA1 + rows + place / 94),
+                    static_cast<unsigned char>(0xA1 + place % 94)};
+}
+constexpr std::optional<BytePair> eucToShiftJis(BytePair pair) {
+    if (pair.first < 0xA1 || pair.first > 0xFE || pair.second < 0xA1 || pair.second > 0xFE)
+        return std::nullopt;
+    const int row = pair.first - 0xA1;
+    const int place = pair.second - 0xA1 + (row % 2) * 94;
+    return BytePair{static_cast<unsigned char>(row / 2 + (row < 62 ? 0x81 : 0xC1)),
+                    static_cast<unsigned char>(place + (place < 63 ? 0x40 : 0x41))};
 }
 
 } // namespace bexa::detail
