@@ -41,10 +41,10 @@ public:
     // Reads the whole file at once. Its texts are converted from `fileCoding` to `localCoding`; a pair of bytes that
     // cannot be converted stays as it is.
     YioRscLoad(const char* path, YioRscJCoding fileCoding, YioRscJCoding localCoding);
-    // Over bytes already read.
-    YioRscLoad(std::string bytes, YioRscJCoding fileCoding, YioRscJCoding localCoding);
     // A reader of nothing, not valid.
     YioRscLoad() = default;
+    // Over the bytes of a file that are at hand already.
+    static YioRscLoad ofBytes(std::string bytes, YioRscJCoding fileCoding, YioRscJCoding localCoding);
 
     // True when the file could be read; a directory can't. A reader that isn't valid gives TypeInvalid.
     unsigned long isValid() const { return valid_; }
@@ -64,10 +64,13 @@ private:
     Token entryToken();
     Token valueToken();
     Token tableToken();
-    Token mark(Type type, Place place);
-    Token quoted();
-    Token bare(unsigned stops);
+    // Take what stands here; `then` is the place behind it.
+    Token mark(Type type, Place then);
+    Token quoted(Place then);
+    Token bare(unsigned stops, Place then);
+    // The end of the file, or a NUL byte in front of it.
     Token stop();
+    Token broken();
 
     bexa::detail::RscScanner scanner_;
     Place place_ = Place::Broken;
