@@ -29,8 +29,7 @@ bool loadFloat(YioRscLoad& reader, double& out);
 // Copies the value with its terminator. A value of `size` bytes or more is refused.
 bool loadString(YioRscLoad& reader, char* out, unsigned size);
 // The value as a view, valid until the next token is read.
-bool loadText(YioRscLoad& reader, std::string_view& out, unsigned colonSize = stringSize,
-              unsigned valueSize = stringSize);
+bool loadText(YioRscLoad& reader, std::string_view& out, unsigned size = stringSize);
 
 // The head of a table: a count that is exactly `columns`, and an opening brace.
 bool loadTableHead(YioRscLoad& reader, int columns, unsigned size);
