@@ -14,6 +14,9 @@
 #include "bexa/foundation/rsc_modes.h"
 #include "bexa/foundation/ygeneral/ystring.h"
 
+#include <memory>
+#include <span>
+#include <string_view>
 #include <unordered_map>
 
 class BexCompKind;
@@ -108,14 +111,16 @@ private:
     BexCompKind(const char* path, BexOpenMode mode);
     ~BexCompKind();
 
+    struct HeaderKey;
+    static std::span<const HeaderKey> headerKeys();
+
     unsigned long load();
     bool loadEntry(YioRscLoad& reader, std::string_view key);
-    bool loadHeader(YioRscLoad& reader, YString& header);
     bool loadKinds(YioRscLoad& reader);
-    bool loadKind(YioRscLoad& reader, std::string_view numberText);
+    bool loadKind(YioRscLoad& reader, int type);
     bool write(const char* path) const;
 
-    unsigned long attach(BexCompKindRec* record);
+    unsigned long attach(std::unique_ptr<BexCompKindRec> record);
     void removeAll();
 
     YString fileName_;
