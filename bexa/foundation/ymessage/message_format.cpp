@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <cwchar>
 #include <iterator>
-#include <optional>
 #include <type_traits>
 
 namespace {
@@ -31,11 +30,12 @@ struct ConversionRule;
 
 // conversion = "%" { flag } [ width ] [ "." [ precision ] ] [ "l" ] letter
 struct Conversion {
-    std::string flags;
+    std::string_view whole;
+    std::string flags; // those that the rule has a use for
     int width = 0;
     int precision = -1; // below 0 for none
     bool isLong = false;
-    const ConversionRule* rule = nullptr;
+    const ConversionRule* rule = nullptr; // null if it isn't one of those that are carried out
 };
 
 using Print = void (*)(std::string& out, const Conversion& conversion, Arguments& arguments);
@@ -118,9 +118,9 @@ bool take(std::string_view& text, char c) {
     return true;
 }
 
-// Takes a conversion off the front of the text, which begins with a percent sign. Nothing, with the text as it was, if
-// it is none of those that are carried out.
-std::optional<Conversion> takeConversion(std::string_view& text) {
+// Takes a conversion off the front of the text, which begins with a percent sign. At the end of the text it may be
+// unfinished.
+Conversion takeConversion(std::string_view& text) {
     std::string_view rest = text.substr(1);
     Conversion result;
     const auto flagsEnd = std::ranges::find_if_not(rest, isFlag);
@@ -131,11 +131,13 @@ std::optional<Conversion> takeConversion(std::string_view& text) {
     result.isLong = take(rest, 'l');
     const auto rule =
         rest.empty() ? std::end(rules) : std::ranges::find(rules, rest.front(), &ConversionRule::letter);
-    if (rule == std::end(rules)) return std::nullopt;
+    if (!rest.empty()) rest.remove_prefix(1);
+    result.whole = text.substr(0, text.size() - rest.size());
+    text = rest;
+    if (rule == std::end(rules)) return result;
     result.rule = rule;
     std::ranges::copy_if(flags, std::back_inserter(result.flags),
                          [rule](char flag) { return rule->flags.find(flag) != std::string_view::npos; });
-    text = rest.substr(1);
     return result;
 }
 
@@ -149,15 +151,11 @@ std::string bexa::detail::formatMessage(std::string_view format, va_list argumen
         out += format.substr(0, percent);
         format.remove_prefix(percent);
         if (format.empty()) return out;
-        if (format.starts_with("%%")) {
-            out += '%';
-            format.remove_prefix(2);
-        } else if (const auto conversion = takeConversion(format)) {
-            (conversion->isLong ? conversion->rule->printLong : conversion->rule->print)(out, *conversion,
-                                                                                         list);
+        const Conversion conversion = takeConversion(format);
+        if (conversion.rule) {
+            (conversion.isLong ? conversion.rule->printLong : conversion.rule->print)(out, conversion, list);
         } else {
-            out += '%';
-            format.remove_prefix(1);
+            out += conversion.whole == "%%" ? "%" : conversion.whole;
         }
     }
 }
