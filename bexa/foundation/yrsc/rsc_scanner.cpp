@@ -7,6 +7,10 @@ namespace bexa::detail {
 
 namespace {
 
+constexpr unsigned char byteOf(char c) {
+    return static_cast<unsigned char>(c);
+}
+
 using Classes = std::array<std::uint8_t, 256>;
 
 constexpr Classes classesOf(const ByteSet& leads) {
@@ -14,9 +18,9 @@ constexpr Classes classesOf(const ByteSet& leads) {
     for (unsigned value = 0; value < classes.size(); ++value) {
         if (leads.has(static_cast<unsigned char>(value))) classes[value] = RscScanner::Lead;
     }
-    for (unsigned char c : {' ', '\t', '\v', '\f', '\r'}) classes[c] = RscScanner::White;
-    for (unsigned char c : {'{', '}'}) classes[c] = RscScanner::Brace;
-    for (unsigned char c : {'(', ')'}) classes[c] = RscScanner::Parenthesis;
+    for (char c : {' ', '\t', '\v', '\f', '\r'}) classes[byteOf(c)] = RscScanner::White;
+    for (char c : {'{', '}'}) classes[byteOf(c)] = RscScanner::Brace;
+    for (char c : {'(', ')'}) classes[byteOf(c)] = RscScanner::Parenthesis;
     classes['\n'] = RscScanner::White | RscScanner::LineEnd;
     classes[':'] = RscScanner::Colon;
     classes['"'] = RscScanner::Quote;
@@ -28,10 +32,6 @@ constexpr Classes shiftJisClasses = classesOf(shiftJisLeadBytes);
 constexpr Classes eucClasses = classesOf(eucLeadBytes);
 
 constexpr unsigned char halfWidthMark = 0x8E; // in EUC
-
-constexpr unsigned char byteOf(char c) {
-    return static_cast<unsigned char>(c);
-}
 
 bool isAscii(std::string_view text) {
     unsigned char all = 0;
