@@ -1,0 +1,6 @@
+sNetNameHeader : SIG
+bNetNameHeader : BUS
+dBlockRefheader : X
+dSymbolRefheader : SY
+ComponentKind 3 {
+}
