@@ -34,4 +34,11 @@
 #include "bexa/foundation/yrsc/keyed_file.h"
 #include "bexa/foundation/yrsc/token_reader.h"
 
+#include "bexa/store/access_snapshot.h"
+#include "bexa/store/data_file.h"
+#include "bexa/store/file.h"
+#include "bexa/store/install_roots.h"
+#include "bexa/store/rcpath.h"
+#include "bexa/store/rcpath_file.h"
+
 #include "bexa/design/comp_kind.h"

@@ -28,7 +28,7 @@ public:
 
 protected:
     // The bits of the flag word.
-    enum Flags : unsigned long {
+    enum Flag : unsigned long {
         Exists = 1,
         Executable = 2, // set for everything that exists
         Writable = 4,
@@ -43,6 +43,7 @@ protected:
     bool has(unsigned long flags) const { return (flags_ & flags) == flags; }
 
 private:
+    static unsigned long look(const char* path);
     bool isFileWith(unsigned long flags) const;
 
     unsigned long flags_ = 0;

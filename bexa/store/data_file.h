@@ -37,21 +37,22 @@ public:
     using Callback = int (*)(void* arg, const char* path);
 
     BexDataFile() = default;
-    BexDataFile(const char* circuit); // NOLINT(google-explicit-constructor): a path is as good as the object
+    BexDataFile(const char* circuit)
+        : path_(circuit) {} // NOLINT(google-explicit-constructor): a path is as good as the object
 
     const YString& circuitDir() const { return path_; }
     // Null empties it.
-    void circuitDir(const char* circuit);
+    void circuitDir(const char* circuit) { path_ = circuit; }
 
     // The kind of a path by its last component, whatever the case: by its suffix if it has one, else by its name.
     static Type fileType(const char* path);
-    Type fileType() const;
+    Type fileType() const { return fileType(path_); }
 
     // BexFile::access and BexFile::isExist, but -1 and false if `type` isn't BexAnyFile and the path is of another.
     static int access(const char* path, int mode, Type type);
-    int access(int mode, Type type) const;
+    int access(int mode, Type type) const { return access(path_, mode, type); }
     static unsigned long isExist(const char* path, Type type);
-    unsigned long isExist(Type type) const;
+    unsigned long isExist(Type type) const { return isExist(path_, type); }
 
     // The path of a member of a circuit, in canonical spelling. Empty if `type` isn't BexAnyFile and the path is no
     // circuit; the members give an empty text for an empty path, too. A null path is none.
@@ -69,16 +70,22 @@ public:
     //                                             gives for `name`; the list is read at each call. Empty if it can't
     //                                             be read or has no such entry
     static YString fileName(const char* path, Type type, const char* name);
-    YString fileName(Type type, const char* name) const;
+    YString fileName(Type type, const char* name) const {
+        return path_.length() == 0 ? YString() : fileName(path_, type, name);
+    }
 
     // The path of the temporary copy, and of the backup copy. With a name, the mark goes in front of that; with null,
     // in front of the last component of what `fileName` gives.
     // Kept on purpose: a kind that ignores its name ignores the mark on it too, so the result is the file itself; and
     // BexResourceByPath looks for an entry with the marked name.
     static YString tmpFileName(const char* path, Type type, const char* name);
-    YString tmpFileName(Type type, const char* name) const;
+    YString tmpFileName(Type type, const char* name) const {
+        return path_.length() == 0 ? YString() : tmpFileName(path_, type, name);
+    }
     static YString backupFileName(const char* path, Type type, const char* name);
-    YString backupFileName(Type type, const char* name) const;
+    YString backupFileName(Type type, const char* name) const {
+        return path_.length() == 0 ? YString() : backupFileName(path_, type, name);
+    }
 
     // From a file to its copy and back: the directory of the path, joined with the last component with the mark put
     // in front, or one mark taken off if there is one. Not in canonical spelling; a path without a directory comes
@@ -94,47 +101,63 @@ public:
 
     // The number of sheets, and of their net files, as the walks below count them. 0 also if the walk fails.
     static unsigned sheetCount(const char* path);
-    unsigned sheetCount() const;
+    unsigned sheetCount() const { return sheetCount(path_); }
     static unsigned sheetNetCount(const char* path);
-    unsigned sheetNetCount() const;
+    unsigned sheetNetCount() const { return sheetNetCount(path_); }
 
     // The number in a sheet's name, also of a temporary or a backup copy; 0 for a name that isn't a number, -1 if
     // there is no name.
     static int sheetNo(const char* path);
     // The path of the sheet of this number, and of its net file: three digits at least. In canonical spelling.
     static YString sheetName(const char* path, unsigned no);
-    YString sheetName(unsigned no) const;
+    YString sheetName(unsigned no) const { return sheetName(path_, no); }
     static YString sheetNetName(const char* path, unsigned no);
-    YString sheetNetName(unsigned no) const;
+    YString sheetNetName(unsigned no) const { return sheetNetName(path_, no); }
 
     // Calls `fn` for each file of a kind in a directory, in the order of the system; copies are left out. False for a
     // null `fn`, a directory that can't be read, and when `fn` returned nonzero.
     // Kept on purpose: sheets with a number beyond 999 are left out, although `sheetName` names them; net files have
     // no such bound. A backslash at the end of `dir` is followed by a separator.
     static unsigned long enumFileNames(const char* dir, Type type, Callback fn, void* arg);
-    unsigned long enumFileNames(Type type, Callback fn, void* arg) const;
+    unsigned long enumFileNames(Type type, Callback fn, void* arg) const {
+        return enumFileNames(path_, type, fn, arg);
+    }
     // The same for temporary copies, and for backup copies, through the directories "log", "frame", "ext" and "drc"
     // below as well; a false result from there ends the walk.
     // Kept on purpose: a plain file of such a name can't be read as a directory, so it ends the walk with false. So
     // does a circle of links, when the system refuses the path that it makes.
     static unsigned long enumTmpFileNames(const char* dir, Type type, Callback fn, void* arg);
-    unsigned long enumTmpFileNames(Type type, Callback fn, void* arg) const;
+    unsigned long enumTmpFileNames(Type type, Callback fn, void* arg) const {
+        return enumTmpFileNames(path_, type, fn, arg);
+    }
     static unsigned long enumBackupFileNames(const char* dir, Type type, Callback fn, void* arg);
-    unsigned long enumBackupFileNames(Type type, Callback fn, void* arg) const;
+    unsigned long enumBackupFileNames(Type type, Callback fn, void* arg) const {
+        return enumBackupFileNames(path_, type, fn, arg);
+    }
 
     // The walks for sheets and for their net files.
     static unsigned long enumSheetNames(const char* path, Callback fn, void* arg);
-    unsigned long enumSheetNames(Callback fn, void* arg) const;
+    unsigned long enumSheetNames(Callback fn, void* arg) const { return enumSheetNames(path_, fn, arg); }
     static unsigned long enumTmpSheetNames(const char* path, Callback fn, void* arg);
-    unsigned long enumTmpSheetNames(Callback fn, void* arg) const;
+    unsigned long enumTmpSheetNames(Callback fn, void* arg) const {
+        return enumTmpSheetNames(path_, fn, arg);
+    }
     static unsigned long enumBackupSheetNames(const char* path, Callback fn, void* arg);
-    unsigned long enumBackupSheetNames(Callback fn, void* arg) const;
+    unsigned long enumBackupSheetNames(Callback fn, void* arg) const {
+        return enumBackupSheetNames(path_, fn, arg);
+    }
     static unsigned long enumSheetNetNames(const char* path, Callback fn, void* arg);
-    unsigned long enumSheetNetNames(Callback fn, void* arg) const;
+    unsigned long enumSheetNetNames(Callback fn, void* arg) const {
+        return enumSheetNetNames(path_, fn, arg);
+    }
     static unsigned long enumTmpSheetNetNames(const char* path, Callback fn, void* arg);
-    unsigned long enumTmpSheetNetNames(Callback fn, void* arg) const;
+    unsigned long enumTmpSheetNetNames(Callback fn, void* arg) const {
+        return enumTmpSheetNetNames(path_, fn, arg);
+    }
     static unsigned long enumBackupSheetNetNames(const char* path, Callback fn, void* arg);
-    unsigned long enumBackupSheetNetNames(Callback fn, void* arg) const;
+    unsigned long enumBackupSheetNetNames(Callback fn, void* arg) const {
+        return enumBackupSheetNetNames(path_, fn, arg);
+    }
 
     // Whether a name belongs to an exchange port: it begins with "exPort" in any case.
     static unsigned long isExPort(const char* name);

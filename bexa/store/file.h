@@ -17,15 +17,15 @@ public:
     static unsigned long mkdir(const char* path);
 
     // Copies the bytes of `from` over `to`, or behind what `to` holds if `append` is nonzero. True, with nothing
-    // copied, when both paths are the same after expansion, whatever the case of their letters. False when a file
-    // doesn't open or the copy breaks off; a source that doesn't open leaves the target alone, a copy that breaks off
-    // leaves it in whatever state it reached.
+    // copied, when both paths are the same after expansion, whatever the case of their letters, or lead to the same
+    // file. False when a file doesn't open or the copy breaks off; a source that doesn't open leaves the target alone,
+    // a copy that breaks off leaves it in whatever state it reached.
     static unsigned long fileCopy(const char* from, const char* to, unsigned long append);
 
     // The same with each piece of 1024 bytes converted from EUC to Shift-JIS on its way.
     // Kept on purpose: a piece comes out as long as it went in. Where half-width kana make the conversion shorter,
-    // NUL bytes fill the piece up. A pair that two pieces share is not put together; bytes that can't be converted
-    // stay as they are, to the end of their line of text or their piece.
+    // NUL bytes fill the piece up. A pair that two pieces share is not put together. What can't be converted stays as
+    // it is.
     static unsigned long EUCfileCopy(const char* from, const char* to, unsigned long append);
 
     // Removes a file, or a directory that is empty. A link goes, not what it leads to.

@@ -58,8 +58,7 @@ private:
     unsigned long load();
     bool write() const;
     void sort();
-    // The place of the first entry that isn't before `entry`.
-    int placeOf(const BexRcpath& entry) const;
+    int placeOf(const char* name) const;
 
     unsigned long edited_ = 0;
     BexRcpathTable table_;
