@@ -75,7 +75,7 @@ bool BexSecFile::isFileWith(unsigned long flags) const {
 
 BexSecDirectory::BexSecDirectory(const char* path) : BexSecFile(path) {}
 
-// The base starts empty on purpose: its own copy would take over what was seen before.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init): the base's copy would take over what was seen before
 BexSecDirectory::BexSecDirectory(const BexSecDirectory& other) : BexSecFile() {
     SetPathname(other.GetPathname());
 }

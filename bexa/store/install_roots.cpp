@@ -132,7 +132,7 @@ YString BexSysFile::fileName(const char* name, Type type) {
     const YPathName file = name && type == InfoResource ? resourceName(name) : YPathName(name);
     for (const YPathName& project : {rootOf("YDS_PROJECT_ROOT"), familyProjectRoot()}) {
         if (project.length() == 0) continue;
-        const YPathName candidate = name ? below(project, {word, file}) : project;
+        YPathName candidate = name ? below(project, {word, file}) : project;
         if (BexFile::isExist(candidate)) return candidate;
     }
     return below(systemDir(), {word, file});
