@@ -76,6 +76,18 @@ const Kind& kindOf(BexDataFile::Type type) {
     return row == std::end(kinds) ? kinds[BexAnyFile] : *row;
 }
 
+// Where the last component begins, separators at the end not counting.
+std::size_t lastComponentOf(const YPathName& path) {
+    return std::min(path.view().rfind(path.basename().view()), path.view().size());
+}
+
+// The path up to the end of its last component, so that a suffix can be put there.
+YPathName withoutSeparatorsAtEnd(const YPathName& path) {
+    const std::size_t component = path.basename().view().size();
+    return component == 0 ? path
+                          : YPathName(YString(path.view().substr(0, lastComponentOf(path) + component)));
+}
+
 // In place of the suffix that the path has, if any.
 YPathName withSuffix(YPathName path, const char* suffix) {
     return path.cutSuffix(nullptr).addSuffix(suffix);
@@ -136,7 +148,7 @@ YString markedFileName(const char* path, BexDataFile::Type type, const char* nam
     const YPathName file = BexDataFile::fileName(path, type, nullptr);
     if (file.length() == 0) return {};
     std::string marked(file.view());
-    marked.insert(marked.rfind(file.basename().view()), 1, mark);
+    marked.insert(lastComponentOf(file), 1, mark);
     return YString(std::string_view(marked));
 }
 
@@ -187,7 +199,7 @@ unsigned long BexDataFile::isExist(const char* path, Type type) {
 
 YString BexDataFile::fileName(const char* path, Type type, const char* name) {
     if (!path || (type != BexAnyFile && fileType(path) != BexCircuitFile)) return {};
-    return BexFile::extChange(nameOf(path, kindOf(type), name));
+    return BexFile::extChange(nameOf(withoutSeparatorsAtEnd(path), kindOf(type), name));
 }
 
 YString BexDataFile::tmpFileName(const char* path, Type type, const char* name) {
