@@ -1,6 +1,5 @@
 #include "bexa/foundation/text_cursor.h"
 #include "bexa/foundation/ygeneral/ydir_reader.h"
-#include "bexa/foundation/ygeneral/ypath_name.h"
 #include "bexa/store/data_file.h"
 #include "bexa/store/path_spelling.h"
 
@@ -73,10 +72,10 @@ private:
     }
 };
 
-// Count a sheet, or a net file, of a walk.
-int count(void* number, const char* path, BexDataFile::Type type) {
-    const YString name = YPathName(path).basename();
-    if (isOfType(name, type) && !isCopy(name.view())) ++*static_cast<unsigned*>(number);
+// Counts a sheet, or a net file, of a walk.
+int count(void* number, std::string_view path, BexDataFile::Type type) {
+    const char* name = path.substr(path.rfind('/') + 1).data();
+    if (isOfType(name, type) && !isCopy(name)) ++*static_cast<unsigned*>(number);
     return 0;
 }
 
