@@ -46,22 +46,24 @@ struct Kind {
     }
 };
 
+// clang-format off
 constexpr Kind kinds[] = {
-    {BexAnyFile, Naming::Joined, ""},
-    {BexCircuitFile, Naming::Circuit, ".cir"},
-    {BexSymbolFile, Naming::Suffixed, ".smb"},
-    {BexBlockDataFile, Naming::Beside, ".blk"},
-    {BexSheetFile, Naming::Suffixed, ".sht"},
-    {BexSheetNetFile, Naming::Suffixed, ".net"},
-    {BexDrcDir, Naming::Directory, "drc"},
-    {BexInstanceFile, Naming::Fixed, "instnc"},
+    {BexAnyFile,        Naming::Joined,     ""},
+    {BexCircuitFile,    Naming::Circuit,    ".cir"},
+    {BexSymbolFile,     Naming::Suffixed,   ".smb"},
+    {BexBlockDataFile,  Naming::Beside,     ".blk"},
+    {BexSheetFile,      Naming::Suffixed,   ".sht"},
+    {BexSheetNetFile,   Naming::Suffixed,   ".net"},
+    {BexDrcDir,         Naming::Directory,  "drc"},
+    {BexInstanceFile,   Naming::Fixed,      "instnc"},
     {BexResourceByPath, Naming::ByPathList, ""},
-    {BexLogDir, Naming::Directory, "log"},
-    {BexExtDir, Naming::Directory, "ext"},
-    {BexRcpathFile, Naming::Fixed, "rcpath"},
-    {BexFrameDir, Naming::Directory, "frame"},
-    {BexEnetdbFile, Naming::Fixed, "enetdb"},
+    {BexLogDir,         Naming::Directory,  "log"},
+    {BexExtDir,         Naming::Directory,  "ext"},
+    {BexRcpathFile,     Naming::Fixed,      "rcpath"},
+    {BexFrameDir,       Naming::Directory,  "frame"},
+    {BexEnetdbFile,     Naming::Fixed,      "enetdb"},
 };
+// clang-format on
 
 constexpr bool standAtTheirNumber() {
     return std::all_of(std::begin(kinds), std::end(kinds),

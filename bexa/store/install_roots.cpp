@@ -58,17 +58,25 @@ struct PersonalForm {
     const char* suffix;
 };
 
+// clang-format off
 constexpr PersonalForm caeForms[] = {
-    {BexCaeFile::PersonalFile, nullptr, ""},      {BexCaeFile::PersonalResource, nullptr, ".rsc"},
-    {BexCaeFile::PersonalDirectory, "", ""},      {BexCaeFile::PersonalLog, "log", ""},
-    {BexCaeFile::PersonalMacro, nullptr, ".mac"}, {BexCaeFile::PersonalIni, nullptr, ".ini"},
+    {BexCaeFile::PersonalFile,      nullptr, ""},
+    {BexCaeFile::PersonalResource,  nullptr, ".rsc"},
+    {BexCaeFile::PersonalDirectory, "",      ""},
+    {BexCaeFile::PersonalLog,       "log",   ""},
+    {BexCaeFile::PersonalMacro,     nullptr, ".mac"},
+    {BexCaeFile::PersonalIni,       nullptr, ".ini"},
 };
 
 constexpr PersonalForm personalForms[] = {
-    {BexPersonalFile::Directory, "", ""},         {BexPersonalFile::LogDirectory, "log", ""},
-    {BexPersonalFile::Resource, nullptr, ".rsc"}, {BexPersonalFile::Macro, nullptr, ".mac"},
-    {BexPersonalFile::Ini, nullptr, ".ini"},      {BexPersonalFile::PlainFile, nullptr, ""},
+    {BexPersonalFile::Directory,    "",      ""},
+    {BexPersonalFile::LogDirectory, "log",   ""},
+    {BexPersonalFile::Resource,     nullptr, ".rsc"},
+    {BexPersonalFile::Macro,        nullptr, ".mac"},
+    {BexPersonalFile::Ini,          nullptr, ".ini"},
+    {BexPersonalFile::PlainFile,    nullptr, ""},
 };
+// clang-format on
 
 YString personalPath(const YPathName& directory, std::span<const PersonalForm> forms, int type,
                      const char* name) {

@@ -135,25 +135,52 @@ struct Spelling {
     Rule rule;
 };
 
+// clang-format off
 // Components with a dot, by what stands from their last dot on. To add a row: the suffix as the suite writes it.
 constexpr Spelling suffixes[] = {
-    {".cir", plain},     {".smb", plain},        {".blk", plain},        {".rlt", plain},
-    {".cmp", plain},     {".dbf", plain},        {".prf", plain},        {".evf", plain},
-    {".elf", plain},     {".htb", hot},          {".eds", plain},        {".sht", inCircuit},
-    {".net", inCircuit}, {".err", inCircuitLog}, {".wrn", inCircuitLog}, {".rsc", resource},
+    {".cir", plain},
+    {".smb", plain},
+    {".blk", plain},
+    {".rlt", plain},
+    {".cmp", plain},
+    {".dbf", plain},
+    {".prf", plain},
+    {".evf", plain},
+    {".elf", plain},
+    {".htb", hot},
+    {".eds", plain},
+    {".sht", inCircuit},
+    {".net", inCircuit},
+    {".err", inCircuitLog},
+    {".wrn", inCircuitLog},
+    {".rsc", resource},
     {".mac", macro},
 };
 
 // Components without a dot. To add a row: the name as the suite writes it.
 constexpr Spelling names[] = {
-    {"PropSpec", specification}, {"PartSpec", specification}, {"CompKind", underEtc},
-    {"rcpath", inCircuit},       {"instnc", inCircuit},       {"log", inCircuit},
-    {"ext", inCircuit},          {"drc", inCircuit},          {"frame", inCircuit},
-    {"netlist", inCircuitLog},   {"marklist", inCircuitLog},  {"cpinopn", inCircuitLog},
-    {"nnodeopn", inCircuitLog},  {"ioopn", inCircuitLog},     {"snetunm", inCircuitLog},
-    {"sbusunm", inCircuitLog},   {"prnmdup", inCircuitLog},   {"prnmopn", inCircuitLog},
-    {"drcchk", inCircuitLog},    {"sherc", inCircuitLog},
+    {"PropSpec", specification},
+    {"PartSpec", specification},
+    {"CompKind", underEtc},
+    {"rcpath",   inCircuit},
+    {"instnc",   inCircuit},
+    {"log",      inCircuit},
+    {"ext",      inCircuit},
+    {"drc",      inCircuit},
+    {"frame",    inCircuit},
+    {"netlist",  inCircuitLog},
+    {"marklist", inCircuitLog},
+    {"cpinopn",  inCircuitLog},
+    {"nnodeopn", inCircuitLog},
+    {"ioopn",    inCircuitLog},
+    {"snetunm",  inCircuitLog},
+    {"sbusunm",  inCircuitLog},
+    {"prnmdup",  inCircuitLog},
+    {"prnmopn",  inCircuitLog},
+    {"drcchk",   inCircuitLog},
+    {"sherc",    inCircuitLog},
 };
+// clang-format on
 
 template <std::size_t Size>
 constexpr bool areUnique(const Spelling (&table)[Size]) {
