@@ -41,4 +41,8 @@
 #include "bexa/store/rcpath.h"
 #include "bexa/store/rcpath_file.h"
 
+#include "bexa/circuitrc/datarc.h"
+#include "bexa/circuitrc/palette.h"
+#include "bexa/circuitrc/resource_tables.h"
+
 #include "bexa/design/comp_kind.h"
