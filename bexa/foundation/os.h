@@ -3,6 +3,7 @@
 // nothing is.
 #pragma once
 
+#include <ctime>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -69,5 +70,7 @@ const char* userName();
 const char* environmentValue(const char* name);
 // False if there is none; the buffer holds `size` bytes, at least 1.
 bool hostName(char* buffer, unsigned size);
+// This moment, by the time zone as it is set now.
+std::tm localTime();
 
 } // namespace bexa::detail::os

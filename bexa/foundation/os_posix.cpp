@@ -256,4 +256,13 @@ bool hostName(char* buffer, unsigned size) {
     return true;
 }
 
+std::tm localTime() {
+    const std::time_t now = std::time(nullptr);
+    std::tm result = {};
+    // localtime_r alone need not notice that the zone was changed.
+    ::tzset();
+    ::localtime_r(&now, &result);
+    return result;
+}
+
 } // namespace bexa::detail::os

@@ -249,4 +249,12 @@ bool hostName(char* buffer, unsigned size) {
     return true;
 }
 
+std::tm localTime() {
+    const std::time_t now = std::time(nullptr);
+    std::tm result = {};
+    ::_tzset();
+    ::localtime_s(&result, &now);
+    return result;
+}
+
 } // namespace bexa::detail::os
