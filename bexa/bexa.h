@@ -43,8 +43,10 @@
 #include "bexa/store/data_file.h"
 #include "bexa/store/file.h"
 #include "bexa/store/install_roots.h"
+#include "bexa/store/library_locks.h"
 #include "bexa/store/rcpath.h"
 #include "bexa/store/rcpath_file.h"
+#include "bexa/store/sheet_locks.h"
 
 #include "bexa/circuitrc/datarc.h"
 #include "bexa/circuitrc/palette.h"
