@@ -40,6 +40,7 @@
 #include "bexa/foundation/yrsc/token_reader.h"
 
 #include "bexa/store/access_snapshot.h"
+#include "bexa/store/circuit_dir.h"
 #include "bexa/store/data_file.h"
 #include "bexa/store/file.h"
 #include "bexa/store/install_roots.h"
