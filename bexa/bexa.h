@@ -54,3 +54,5 @@
 #include "bexa/circuitrc/resource_tables.h"
 
 #include "bexa/design/comp_kind.h"
+#include "bexa/design/net_list.h"
+#include "bexa/design/reference_headers.h"
