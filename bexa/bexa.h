@@ -53,6 +53,7 @@
 #include "bexa/circuitrc/palette.h"
 #include "bexa/circuitrc/resource_tables.h"
 
+#include "bexa/design/circuit_creator.h"
 #include "bexa/design/comp_kind.h"
 #include "bexa/design/net_list.h"
 #include "bexa/design/reference_headers.h"
