@@ -53,6 +53,12 @@
 #include "bexa/circuitrc/palette.h"
 #include "bexa/circuitrc/resource_tables.h"
 
+#include "bexa/names/array_name.h"
+#include "bexa/names/bundle_name.h"
+#include "bexa/names/name_compression.h"
+#include "bexa/names/name_result.h"
+#include "bexa/names/signal_name.h"
+
 #include "bexa/design/circuit_creator.h"
 #include "bexa/design/comp_kind.h"
 #include "bexa/design/net_list.h"
