@@ -25,7 +25,7 @@ function(bexa_optional_part part)
   endforeach()
 endfunction()
 
-bexa_optional_part(TOOLS CLI11)
+bexa_optional_part(TOOLS CLI11 nlohmann_json Iconv)
 bexa_optional_part(TESTS GTest Python3)
 bexa_optional_part(EXAMPLES)
 bexa_optional_part(BENCH benchmark)

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "tools/bexa/output.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tool {
+
+// What the command line asks for: filled while it is parsed, carried out when all of it was understood.
+struct Request {
+    std::function<void(Output&)> work;
+    bool json = false;
+};
+
+// Adds a command to the program, its options and its callback, which sets `request.work`.
+using AddCommand = void (*)(CLI::App& program, Request& request);
+
+// Gives `command` the option --json that every command has, and `work`. Whatever `work` refers to lives as
+// long as its copies, so options go in a shared object that it holds.
+void finishCommand(CLI::App& command, Request& request, std::function<void(Output&)> work);
+
+// To add a command: a source of its own, named after it, and here and in command.cpp a line each.
+void addCircuitCommand(CLI::App& program, Request& request);
+void addBlockCommand(CLI::App& program, Request& request);
+void addNameCommand(CLI::App& program, Request& request);
+void addKindsCommand(CLI::App& program, Request& request);
+
+// The arguments as `CLI::App::parse` wants them, the last one first. The parser would take [a,b] for a list and
+// split it, but here brackets belong to names: such an argument gets a NUL at its end, which keeps the parser
+// off and which no argument has of its own. finishCommand makes each option take it away again.
+std::vector<std::string> guardedArguments(int argc, char** argv);
+std::string unguarded(std::string argument);
+
+void addAllCommands(CLI::App& program, Request& request);
+
+} // namespace tool
