@@ -56,7 +56,7 @@ public:
         if (this == &other) return *this;
         if (other.count_ > count_) provide(other.count_);
         const int assigned = std::min(made_, other.count_);
-        std::copy(other.items_, other.items_ + assigned, items_);
+        for (int i = 0; i < assigned; ++i) items_[i] = std::as_const(other.items_[i]);
         for (; made_ < other.count_; ++made_) std::construct_at(items_ + made_, other.items_[made_]);
         count_ = other.count_;
         return *this;
