@@ -185,8 +185,11 @@ int BexCsvInput::HowManyLines() const {
 
 unsigned long BexCsvInput::Read(BexCsvLineReader* reader) const {
     if (!reader) return 0;
-    return walkRecords(path_, [reader](const std::string& record, int number) {
-        return record.empty() || reader->ReadLine(BexCsvLine(record.c_str()), number) != 0;
+    BexCsvLine line; // one for all records, so that its memory is taken once
+    return walkRecords(path_, [&](const std::string& record, int number) {
+        if (record.empty()) return true;
+        line.text_.assign(std::string_view(record));
+        return reader->ReadLine(line, number) != 0;
     });
 }
 

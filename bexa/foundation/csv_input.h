@@ -36,6 +36,9 @@ public:
     unsigned long Read(BexCsvItemReader* reader, int unused) const;
 
 private:
+    friend class BexCsvInput;
+    BexCsvLine() = default;
+
     YString text_;
 };
 

@@ -88,8 +88,9 @@ constexpr std::optional<BytePair> shiftJisToEuc(BytePair pair) {
     if (!lead || pair.second < 0x40 || pair.second == 0x7F || pair.second > 0xFC) return std::nullopt;
     const int rows = 2 * (pair.first - (pair.first < 0xA0 ? 0x81 : 0xC1));
     const int place = pair.second - (pair.second < 0x7F ? 0x40 : 0x41);
-    return BytePair{static_cast<unsigned char>(0xA1 + rows + place / 94),
-                    static_cast<unsigned char>(0xA1 + place % 94)};
+    const bool isSecondRow = place >= 94;
+    return BytePair{static_cast<unsigned char>(0xA1 + rows + isSecondRow),
+                    static_cast<unsigned char>(0xA1 + place - (isSecondRow ? 94 : 0))};
 }
 constexpr std::optional<BytePair> eucToShiftJis(BytePair pair) {
     if (pair.first < 0xA1 || pair.first > 0xFE || pair.second < 0xA1 || pair.second > 0xFE)
