@@ -59,6 +59,8 @@
 #include "bexa/names/name_result.h"
 #include "bexa/names/signal_name.h"
 
+#include "bexa/props/prop_value_type.h"
+
 #include "bexa/design/block_file.h"
 #include "bexa/design/block_pins.h"
 #include "bexa/design/circuit_creator.h"
