@@ -259,6 +259,11 @@ public:
         ++top_;
         return 1;
     }
+    unsigned long push(Element&& element) {
+        Array::operator[](top_) = std::move(element);
+        ++top_;
+        return 1;
+    }
 
     // Takes the element on top away and returns it. Kept on purpose: an empty stack returns the first element
     // of its array and moves nothing; one that never held anything returns a default element.

@@ -404,6 +404,18 @@ TEST(Stack, OneThatNeverHeldAnythingGivesADefaultElement) {
     EXPECT_EQ(stack.count(), 0);
 }
 
+TEST(Stack, TakesATemporaryOver) {
+    bexa::StackOf<YString_Array> stack;
+    YString text("longer than what stands inside the object");
+    stack.push(std::move(text));
+    stack.push(YString("above"));
+    EXPECT_EQ(stack.pop(), "above");
+    stack.push("over the popped one");
+    EXPECT_EQ(stack.pop(), "over the popped one");
+    EXPECT_EQ(stack.pop(), "longer than what stands inside the object");
+    EXPECT_EQ(stack.count(), 0);
+}
+
 TEST(Stack, PoppedElementsStayInTheArray) {
     auto stack = stackOf({1, 2});
     stack.pop();
