@@ -9,6 +9,7 @@ namespace {
 constexpr std::size_t defaultTableSize = 31;
 constexpr std::size_t largestTableSize = 16777213;
 constexpr std::size_t elementsPerSlot = 2;
+constexpr std::size_t firstRoom = 8; // elements without more memory
 
 std::size_t withinLimits(std::size_t tableSize) {
     return std::clamp<std::size_t>(tableSize, 1, largestTableSize);
@@ -71,6 +72,7 @@ void* YSet::attach(void* element) {
     if (!element) return nullptr;
     constexpr std::size_t toleratedVacancies = 16;
     const bool tooManyVacancies = entries_.size() > 2 * count_ + toleratedVacancies;
+    if (entries_.capacity() == 0) entries_.reserve(firstRoom);
     if (chains_.empty() || tooManyVacancies) rebuild(tableSize_);
     entries_.push_back({element, hash, none});
     link(entries_.size() - 1);
@@ -115,6 +117,14 @@ unsigned long YSet::deleteAll() {
         deleteIt(element);
     }
     return 1;
+}
+
+void YSet::deleteAsTheyCame() {
+    const std::vector<Entry> entries = std::exchange(entries_, {});
+    detachAll();
+    for (const Entry& entry : entries) {
+        if (entry.element) deleteIt(entry.element);
+    }
 }
 
 std::vector<void*> YSet::walked() const {

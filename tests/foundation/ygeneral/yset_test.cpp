@@ -20,6 +20,7 @@ struct Record {
 // Equal by name; the hash is chosen by the test.
 class RecordSet : public YSet {
 public:
+    using YSet::deleteAsTheyCame;
     using YSet::YSet;
 
     std::vector<std::string> deleted;
@@ -87,6 +88,19 @@ TEST(YSet, DetachAllForgetsAndDeleteAllDeletes) {
     EXPECT_EQ(set.deleteAll(), 1U);
     EXPECT_EQ(set.count(), 0);
     EXPECT_EQ(set.deleted, (std::vector<std::string>{"a", "b", "c"}));
+}
+
+TEST(YSet, DeletesAsTheyCameForAnOwnerThatEnds) {
+    RecordSet set(10);
+    Record records[] = {{2, "c"}, {0, "a"}, {1, "b"}};
+    for (Record& record : records) set.attach(&record);
+    set.detach(&records[1]);
+    set.deleteAsTheyCame();
+    EXPECT_EQ(set.deleted, (std::vector<std::string>{"c", "b"}));
+    EXPECT_EQ(set.count(), 0);
+    EXPECT_EQ(walk(set), "");
+    EXPECT_EQ(set.attach(&records[2]), &records[2]) << "the set lives on";
+    EXPECT_EQ(walk(set), "b");
 }
 
 TEST(YSet, IsWalkedBySlotAndWithinASlotByAge) {
