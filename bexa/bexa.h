@@ -60,6 +60,7 @@
 #include "bexa/names/signal_name.h"
 
 #include "bexa/props/numeric_text.h"
+#include "bexa/props/prop_value.h"
 #include "bexa/props/prop_value_type.h"
 
 #include "bexa/design/block_file.h"
