@@ -62,6 +62,7 @@
 #include "bexa/props/numeric_text.h"
 #include "bexa/props/prop_value.h"
 #include "bexa/props/prop_value_type.h"
+#include "bexa/props/search_condition.h"
 
 #include "bexa/design/block_file.h"
 #include "bexa/design/block_pins.h"
