@@ -88,9 +88,10 @@ TEST(BigNumber, CountsUpAndDownThroughZero) {
 
 TEST(BigNumber, AddsToItself) {
     BexBigNumber number("999999999999999999");
-    number += number;
+    const BexBigNumber& same = number;
+    number += same;
     EXPECT_EQ(textOf(number), "1999999999999999998");
-    number -= number;
+    number -= same;
     EXPECT_EQ(textOf(number), "0");
 }
 
