@@ -4,23 +4,15 @@
 
 #include "bexa/circuitrc/datarc_fields.h"
 #include "bexa/foundation/rsc_lifecycle.h"
+#include "bexa/foundation/unit_scale.h"
 
 #include <cstring>
-#include <limits>
 #include <utility>
 
 using bexa::detail::EmptyPath;
 using bexa::detail::RscAccess;
 
 namespace {
-
-// Cuts the fraction off. What no long holds becomes the nearest one, NaN becomes 0.
-long wholeOf(double value) {
-    constexpr double end = -static_cast<double>(std::numeric_limits<long>::min());
-    if (value >= end) return std::numeric_limits<long>::max();
-    if (value < -end) return std::numeric_limits<long>::min();
-    return value == value ? static_cast<long>(value) : 0;
-}
 
 double unitFactor(const bexa::detail::DatarcFields& fields) {
     return fields.precisionTable.at(static_cast<int>(fields.precisionNumber)).factor;
@@ -46,13 +38,11 @@ unsigned long BexDatarc::saveAs(const char* fileName, BexSaveMode mode) const {
 }
 
 long BexDatarc::encode(double value) const {
-    const double scaled = value * unitFactor(*fields_);
-    return wholeOf(value >= 0.0 ? scaled + 0.5 : scaled - 0.5);
+    return bexa::detail::wholeUnits(value, unitFactor(*fields_));
 }
 
 double BexDatarc::decode(long value) const {
-    const double factor = unitFactor(*fields_);
-    return factor != 0.0 ? static_cast<double>(value) / factor : 0.0;
+    return bexa::detail::lengthOf(value, unitFactor(*fields_));
 }
 
 long BexDatarc::nodeSize() const {

@@ -3,6 +3,7 @@
 #include "bexa/circuitrc/datarc.h"
 #include "bexa/circuitrc/datarc_fields.h"
 #include "bexa/circuitrc/row_rules.h"
+#include "bexa/foundation/unit_scale.h"
 #include "bexa/foundation/ygeometry/yangle.h"
 
 #include <algorithm>
@@ -16,10 +17,9 @@ using bexa::detail::fillStyleRow;
 using bexa::detail::lineStyleRow;
 using bexa::detail::lowBits;
 using bexa::detail::provideRow;
+using bexa::detail::radiansPerDegree;
 
 namespace {
-
-constexpr double radiansPerDegree = 0.017453292519943295;
 
 // The first index that each table refuses.
 constexpr int precisionLimit = 2;

@@ -5,17 +5,10 @@
 
 #include "bexa/export.h"
 #include "bexa/foundation/array_family.h"
+#include "bexa/foundation/rsc_modes.h"
 #include "bexa/foundation/ygeneral/ystring.h"
 
 #include <utility>
-
-namespace bexa {
-
-// The rows that a file may give a table. A file with a row beyond fails to load, as if the memory were spent:
-// a short line could otherwise claim all there is.
-inline constexpr int maxRowsFromFile = 1048576;
-
-} // namespace bexa
 
 // A named directory. The path is kept as configured: relative, absolute, or beginning with a variable
 // ($NAME/rest).

@@ -1,4 +1,4 @@
-// How a resource object is opened, saved and closed.
+// How a resource object is opened, saved and closed, and what its file may claim.
 #pragma once
 
 // What an object may do, fixed for its life.
@@ -21,3 +21,11 @@ enum BexSaveMode : int {
     BexSaveOverwrite = 1, // the target must exist and be writable
     BexSaveAny = 2,       // no test
 };
+
+namespace bexa {
+
+// A table of a file has its rows below this index: a short line could otherwise claim all the memory there is. A row
+// beyond counts as one that the table doesn't take.
+inline constexpr int maxRowsFromFile = 1048576;
+
+} // namespace bexa
