@@ -53,6 +53,10 @@
 #include "bexa/circuitrc/palette.h"
 #include "bexa/circuitrc/resource_tables.h"
 
+#include "bexa/envrc/editor_modes.h"
+#include "bexa/envrc/envrc.h"
+#include "bexa/envrc/sheet_tables.h"
+
 #include "bexa/names/array_name.h"
 #include "bexa/names/bundle_name.h"
 #include "bexa/names/name_compression.h"
