@@ -6,11 +6,11 @@
 // `insertAfter`.
 #pragma once
 
+#include "bexa/foundation/index_type.h"
 #include "bexa/foundation/ycore/array_find.h"
 
 #include <algorithm>
 #include <climits>
-#include <concepts>
 #include <cstddef>
 #include <cstdlib>
 #include <functional>
@@ -73,9 +73,9 @@ public:
 
     // The element at `index`, growing the array when the index lies at or beyond the end. Kept on purpose:
     // reading past the end extends the array. A negative index is the caller's mistake and not checked.
-    template <std::integral Index>
+    template <detail::IndexType Index>
     T& operator[](Index index) {
-        const int place = std::cmp_less(index, INT_MAX) ? static_cast<int>(index) : INT_MAX;
+        const int place = std::cmp_less(+index, INT_MAX) ? static_cast<int>(index) : INT_MAX;
         return place < count_ ? items_[place] : bumpsize(place);
     }
     // The element at `index`, with no check at all.

@@ -3,7 +3,6 @@
 
 #include "bexa/foundation/array_family.h"
 
-#include <concepts>
 #include <utility>
 
 namespace bexa::detail {
@@ -52,7 +51,7 @@ public:
 
     operator T*() const noexcept { return lent().Plain::operator()(); } // NOLINT(google-explicit-constructor)
     T* operator()() const noexcept { return lent().Plain::operator()(); }
-    template <std::integral Index>
+    template <IndexType Index>
     T& operator[](Index index) {
         return lent().Plain::operator[](index);
     }

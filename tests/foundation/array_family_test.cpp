@@ -147,6 +147,20 @@ TYPED_TEST(EveryArray, ReadingPastTheEndExtends) {
     EXPECT_EQ(array.size(), 6);
 }
 
+// An enumerator or a character must not fall back to the plain pointer, which knows no end.
+TYPED_TEST(EveryArray, AnyKindOfIntegerIsAnIndexAndExtends) {
+    enum Place { Third = 2 };
+    TypeParam array;
+    array[Third];
+    EXPECT_EQ(array.size(), 3);
+    array['\5'];
+    EXPECT_EQ(array.size(), 6);
+    array[static_cast<unsigned char>(6)];
+    EXPECT_EQ(array.size(), 7);
+    array[8UL];
+    EXPECT_EQ(array.size(), 9);
+}
+
 TYPED_TEST(EveryArray, EndAddsAnElement) {
     auto array = filled<TypeParam>(3);
     const auto& added = array.end();

@@ -30,6 +30,8 @@ TEST(WatchedArray, HasTheFaceOfTheFamily) {
     EXPECT_EQ(array(), static_cast<BexChkArrayName*>(array));
     array[5]; // reading past the end extends the array
     EXPECT_EQ(array.size(), 6);
+    enum Place { Sixth = 5 };
+    EXPECT_EQ(&array[Sixth], array() + 5);
     array.end() = naming::array("E");
     EXPECT_EQ(array.size(), 7);
     EXPECT_EQ(array.remove(7), 1u); // the count itself drops the last element

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bexa/export.h"
+#include "bexa/foundation/index_type.h"
 
 #include <concepts>
 #include <cstddef>
@@ -144,16 +145,16 @@ public:
 
     // The character at `index`. Any index outside the text reads NUL and touches nothing else; callers read
     // text[0] and text[1] without a look at the length. Never write through an index that is out of range.
-    template <std::integral Index>
+    template <bexa::detail::IndexType Index>
     char& operator[](Index index) noexcept {
-        if (std::cmp_greater_equal(index, 0) && std::cmp_less(index, length())) {
+        if (std::cmp_greater_equal(+index, 0) && std::cmp_less(+index, length())) {
             return data()[static_cast<std::size_t>(index)];
         }
         return rescue();
     }
-    template <std::integral Index>
+    template <bexa::detail::IndexType Index>
     char operator[](Index index) const noexcept {
-        if (std::cmp_greater_equal(index, 0) && std::cmp_less(index, length())) {
+        if (std::cmp_greater_equal(+index, 0) && std::cmp_less(+index, length())) {
             return data()[static_cast<std::size_t>(index)];
         }
         return '\0';

@@ -52,6 +52,22 @@ TEST(YString, IndexOutsideTheTextReadsNulThroughTheRescueByte) {
     EXPECT_EQ(&text[-1], &text[2U]);
 }
 
+// An enumerator or a character must not fall back to the plain pointer, which knows no end.
+TEST(YString, AnyKindOfIntegerIsAnIndex) {
+    enum Place { Second = 1, Behind = 2 };
+    YString text("ab");
+    const YString& constant = text;
+    EXPECT_EQ(text[Second], 'b');
+    EXPECT_EQ(text[Behind], '\0');
+    EXPECT_EQ(&text[Behind], &text[-1]);
+    EXPECT_EQ(constant[Behind], '\0');
+    EXPECT_EQ(text['a'], '\0');
+    EXPECT_EQ(constant['\1'], 'b');
+    EXPECT_EQ(text[true], 'b');
+    EXPECT_EQ(text[static_cast<signed char>(-1)], '\0');
+    EXPECT_EQ(text[static_cast<unsigned char>(255)], '\0');
+}
+
 TEST(YString, ReadingAConstTextOutsideGivesNul) {
     const YString text("ab");
     EXPECT_EQ(text[0], 'a');
