@@ -249,18 +249,19 @@ public:
     using Element = typename Array::Element;
     using Array::Array;
 
-    // Always 1.
+    // Always 1. The element may be one of the array's own, so it is taken before the array grows.
     unsigned long push(const Element& element) {
-        if (top_ < Array::size()) {
-            (*this)()[top_] = element;
-        } else {
+        if (top_ == Array::size()) {
             Array::append(element);
+        } else {
+            // Also where the array was shortened under the stack.
+            (*this)[top_] = Element(element);
         }
         ++top_;
         return 1;
     }
     unsigned long push(Element&& element) {
-        Array::operator[](top_) = std::move(element);
+        (*this)[top_] = Element(std::move(element));
         ++top_;
         return 1;
     }

@@ -440,6 +440,30 @@ TEST(Stack, PoppedElementsStayInTheArray) {
     EXPECT_EQ(stack[1], 5);
 }
 
+TEST(Stack, PushStoresAtTheTopAlsoWhenTheArrayWasShortened) {
+    auto stack = stackOf({1, 2, 3});
+    stack.removeAll();
+    stack.push(4);
+    EXPECT_EQ(stack.size(), 4);
+    EXPECT_EQ(stack[3], 4);
+    EXPECT_EQ(stack.top(), 4);
+    EXPECT_EQ(stack.pop(), 4);
+    EXPECT_EQ(stack.pop(), 0);
+}
+
+TEST(Stack, AnElementOfTheArrayItselfCanBePushed) {
+    bexa::StackOf<YString_Array> stack;
+    stack.push("first");
+    for (int i = 0; i < 100; ++i) stack.push(stack[0]);
+    EXPECT_STREQ(stack.top(), "first");
+    stack.resize(1);
+    stack.push(stack[0]);
+    EXPECT_EQ(stack.size(), 102);
+    EXPECT_STREQ(stack.top(), "first");
+    for (int i = 0; i < 1000; ++i) stack.push(std::move(stack[stack.count() - 1]));
+    EXPECT_STREQ(stack.top(), "first");
+}
+
 TEST(Stack, CopiesTakeTheTopAlong) {
     const auto stack = stackOf({1, 2, 3});
     Yint_Stack copy(stack);
