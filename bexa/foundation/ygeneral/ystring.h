@@ -139,8 +139,10 @@ public:
     YString& operator<<(long number);
     // Appends the number in decimal.
     YString& operator+=(int number);
-    // A character is no number here: append one with `<<`.
-    YString& operator+=(char) = delete;
+    // A character is no number here: append one with `<<`. A template, so that every other type of number becomes an
+    // int.
+    template <std::same_as<char> Character>
+    YString& operator+=(Character) = delete;
     YString operator+(const YString& other) const;
 
     // The character at `index`. Any index outside the text reads NUL and touches nothing else; callers read

@@ -128,6 +128,21 @@ TEST(YString, AppendsNumbersInDecimal) {
     YString number("A");
     (number += 12) += -3;
     EXPECT_STREQ(number, "A12-3");
+    (number += short{4}) += true;
+    EXPECT_STREQ(number, "A12-341");
+}
+
+template <class Added>
+concept CanBeAdded = requires(YString text, Added added) {
+    text += added;
+};
+
+TEST(YString, EveryNumberButACharacterCanBeAdded) {
+    EXPECT_TRUE(CanBeAdded<int>);
+    EXPECT_TRUE(CanBeAdded<unsigned>);
+    EXPECT_TRUE(CanBeAdded<long>);
+    EXPECT_TRUE(CanBeAdded<std::size_t>);
+    EXPECT_FALSE(CanBeAdded<char>);
 }
 
 TEST(YString, PlusGivesANewText) {
