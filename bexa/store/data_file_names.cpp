@@ -237,7 +237,7 @@ unsigned long BexDataFile::isBackupFileName(const char* path, Type type) {
 }
 
 int BexDataFile::sheetNo(const char* path) {
-    const YString component = YPathName(path).cutSuffix(nullptr).basename();
+    const YPathName component = YPathName(YPathName(path).basename()).cutSuffix(nullptr);
     if (component.length() == 0) return -1;
     const bool marked = component[0] == temporaryMark || component[0] == backupMark;
     return bexa::detail::numberOf(component.view().substr(marked ? 1 : 0));

@@ -241,6 +241,7 @@ TEST(DataFile, SheetNumbers) {
         {"", -1},
         {"12", 12},
         {".sht", -1},
+        {"a/12/.sht", -1}, // no name, and not the number of the directory
         {"_", 0},
         {"_.sht", 0},
         {"1000.sht", 1000},
