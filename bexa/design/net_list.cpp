@@ -71,8 +71,8 @@ unsigned long BexNetList::saveAs(const char* path, BexSaveMode mode) {
 }
 
 BexRefHeader* BexNetList::reference(unsigned kind, unsigned long isBlock) {
-    if (const BexRefInfo* info = infos_.lookup(kind)) return &info->refHeader();
-    return &(isBlock ? defaultBlock_ : defaultSymbol_).refHeader();
+    if (const BexRefInfo* info = infos_.lookup(kind)) return info->refHeader();
+    return (isBlock ? defaultBlock_ : defaultSymbol_).refHeader();
 }
 
 unsigned long BexNetList::load() {

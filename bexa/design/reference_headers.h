@@ -87,7 +87,8 @@ public:
     BexRefInfo& operator=(const BexRefInfo&) = delete;
 
     unsigned kind() const { return kind_; }
-    BexRefHeader& refHeader() const { return *header_; }
+    // Never null; not the caller's.
+    BexRefHeader* refHeader() const { return header_; }
 
 private:
     friend class BexRefInfoSet;

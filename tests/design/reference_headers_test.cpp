@@ -128,8 +128,8 @@ TEST(RefInfoSet, FindsTheHeaderOfAKind) {
     EXPECT_TRUE(infos.attach(*new BexRefInfo(7, *headers.attach("U"))));
     EXPECT_TRUE(infos.attach(*new BexRefInfo(UINT_MAX, *headers.attach("R"))));
     EXPECT_EQ(infos.lookup(7)->kind(), 7u);
-    EXPECT_STREQ(infos.lookup(7)->refHeader().header(), "U");
-    EXPECT_STREQ(infos.lookup(UINT_MAX)->refHeader().header(), "R");
+    EXPECT_STREQ(infos.lookup(7)->refHeader()->header(), "U");
+    EXPECT_STREQ(infos.lookup(UINT_MAX)->refHeader()->header(), "R");
     EXPECT_EQ(infos.lookup(8), nullptr);
 }
 
@@ -138,7 +138,7 @@ TEST(RefInfoSet, OfOneKindTheFirstIsFound) {
     BexRefInfoSet infos;
     infos.attach(*new BexRefInfo(7, *headers.attach("U")));
     EXPECT_TRUE(infos.attach(*new BexRefInfo(7, *headers.attach("R"))));
-    EXPECT_STREQ(infos.lookup(7)->refHeader().header(), "U");
+    EXPECT_STREQ(infos.lookup(7)->refHeader()->header(), "U");
 }
 
 TEST(RefInfoSet, ATieIsAttachedOnce) {
