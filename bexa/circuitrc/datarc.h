@@ -32,9 +32,11 @@ public:
     //
     // `currentDir` says where the circuit is, the place that "." and $CIRCUIT_PATH refer to:
     //   null                           directory "." and name "noname.cir"
-    //   a path that ends in ".cir"     its directory and its last component (the suffix in any case of
-    //   letters) one that ends in ".smb"        its directory and an empty name an existing regular file its
-    //   directory and an empty name anything else                  the path itself and an empty name
+    //   a path that ends in ".cir"     its directory and its last component
+    //   one that ends in ".smb"        its directory and an empty name
+    //   an existing regular file       its directory and an empty name
+    //   anything else                  the path itself and an empty name
+    // Suffixes count in any case of letters.
     //
     // The environment is asked too: YDS_SIMPLE_ARRAY, if set, switches the simple array on; YDS_DATE_FORMAT
     // and YDS_TIME_FORMAT replace the built-in formats. What the environment gave is written by the next
