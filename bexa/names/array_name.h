@@ -38,13 +38,15 @@ struct Delimiters;
 //
 // What stands after a check that failed; the first fault of this order wins:
 //
-//     fault                                                  errType            signals     name arrayName
-//     null or empty name                                     Unchecked          one empty   empty     empty
-//     one of the first four delimiters is NUL                NoDelimiter        none        empty     the
-//     text brackets, an empty root, a `bitEnd` in front, an empty bit list, or one ending in another
-//     character  Syntax             none        empty     the text a malformed item, or more signals than
-//     `maxSignals`    Syntax             none        the root  the text a plain name with a `bitEnd` Syntax
-//     none        empty     the text
+//     fault                                        errType      signals    name      arrayName
+//     null or empty name                           Unchecked    one empty  empty     empty
+//     one of the first four delimiters is NUL      NoDelimiter  none       empty     the text
+//     brackets, an empty root, a `bitEnd` in
+//       front, an empty bit list, or one that
+//       ends in another character                  Syntax       none       empty     the text
+//     a malformed item, or more signals than
+//       `maxSignals`                               Syntax       none       the root  the text
+//     a plain name with a `bitEnd`                 Syntax       none       empty     the text
 //
 // Two names are neither valid nor an error (`errType` Unchecked): a list of empty items alone, `D[,]`,
 // which has its empty signals, and a root with a `bitEnd`, `D,[1]`, which has none since each is refused as
