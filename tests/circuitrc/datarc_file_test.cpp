@@ -214,6 +214,39 @@ TEST_F(DatarcFile, CutsALongTextOnACharacterBoundary) {
     EXPECT_EQ(rc->noMountAliasName(), std::string(1022, 'a').c_str());
 }
 
+TEST_F(DatarcFile, CutsEachCellToItsRoom) {
+    const std::string text(2000, 'x');
+    const auto quoted = [&](std::size_t length) { return "\t\"" + text.substr(0, length) + "\""; };
+    const Resource rc =
+        loaded("textTable 9 { 0 1 1 0 0 0 " + text + ' ' + text + ' ' + text + " }\n" +
+               "lineStyleTable 5 { 1 1 1 1 " + text + " }\n" + "fillStyleTable 7 { 1 1 0 0 0 0 " + text +
+               " }\n" + "contPathTable 3 { 0 " + text + " /" + text + " }\n");
+    ASSERT_TRUE(rc);
+    const std::string written = saved(*rc);
+    const std::string rows[] = {"\t0\t1\t1\t0\t0\t0" + quoted(511) + quoted(511) + quoted(255) + '\n',
+                                "\t1\t1\t1\t0" + quoted(255) + '\n',
+                                "\t1\t1\t0\t0\t0\t0" + quoted(255) + '\n',
+                                "\t0" + quoted(255) + "\t\"/" + text.substr(0, 1022) + "\"\n"};
+    for (const std::string& row : rows) EXPECT_NE(written.find(row), std::string::npos) << row;
+}
+
+TEST_F(DatarcFile, CutsNumbersToTheirRoom) {
+    const std::string zeros(40, '0');
+    const auto number = [&](std::size_t length) { return zeros.substr(0, length - 1) + '7'; };
+    const Resource rc = loaded("propDispNum : " + number(35) + "\ncontentsViewer : " + number(36) +
+                               "\nnodeSize : " + number(36) + "\nlineWidth 2 { " + number(35) + ' ' +
+                               number(36) + " }\nsymbPathTable 3 { " + number(19) +
+                               " n /inside }\ncontPathTable 3 { " + number(20) + " n /cut }\n");
+    ASSERT_TRUE(rc);
+    EXPECT_EQ(rc->propDispNum(), 7);
+    EXPECT_EQ(rc->contentsViewer(), 0);
+    EXPECT_EQ(rc->nodeSize(), 0);
+    EXPECT_EQ(rc->lineWidthCount(), 8u);
+    EXPECT_NE(saved(*rc).find("\t7\t0\n}\n"), std::string::npos);
+    EXPECT_EQ(rc->symbPathCount(), 8u);
+    EXPECT_EQ(rc->contPathCount(), 1u);
+}
+
 TEST_F(DatarcFile, KeepsDoubleByteTexts) {
     const std::string shiftJis = "noMountAliasName : \"\x83\x5c\x95\x5c#\"\n"; // second bytes are backslashes
     EXPECT_EQ(loaded(shiftJis)->noMountAliasName(), "\x83\x5c\x95\x5c#");

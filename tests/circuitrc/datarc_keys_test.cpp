@@ -212,6 +212,34 @@ TEST_F(Keys, AreReadAndWritten) {
     }
 }
 
+TEST_F(Keys, AreCopiedAndAssigned) {
+    for (const FileRow& row : fileRows) {
+        SCOPED_TRACE(row.key);
+        const bool isTable = row.entry[1] != ':';
+        const Resource source = loaded((isTable ? "" : moreRows) + row.key + row.entry + "\n");
+        const Resource copy(new BexDatarc(*source));
+        const Resource target = fresh();
+        *target = *source;
+        EXPECT_EQ(row.read(*copy), row.after);
+        // The one setting that an assignment takes from another, which is off here.
+        const bool crossed = row.key == std::string_view("simpleArray");
+        EXPECT_EQ(row.read(*target), crossed ? row.before : row.after);
+    }
+}
+
+TEST_F(Keys, OfTheUnitAreCopiedAndAssigned) {
+    const Resource source = fresh();
+    ASSERT_TRUE(source->precision(1, "mil", 40, 2.0) && source->set("precisionTblNo", 1L, 0, 0));
+    const Resource copy(new BexDatarc(*source));
+    const Resource target = fresh();
+    *target = *source;
+    for (const BexDatarc* rc : {copy.get(), target.get()}) {
+        EXPECT_EQ(rc->precisionCount(), 2u);
+        EXPECT_EQ(rc->precisionNumber(), 1u);
+        EXPECT_EQ(rc->encode(1.0), 40);
+    }
+}
+
 TEST_F(Keys, OfAFileAreComparedExactly) {
     for (const FileRow& row : fileRows) {
         SCOPED_TRACE(row.key);
