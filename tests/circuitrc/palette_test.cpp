@@ -80,6 +80,22 @@ TEST_F(Palette, PassesOverOtherKeysAndOverlaysAFurtherTable) {
     EXPECT_STREQ(color.color(1), "c");
 }
 
+TEST_F(Palette, CutsNamesAndIndicesToTheirRoom) {
+    const std::string zeros(19, '0');
+    givePalette("colorTable 2 { 1 " + std::string(300, 'x') + ' ' + zeros.substr(1) + "3 inside " + zeros +
+                "4 cut }");
+    const BexColor color;
+    EXPECT_STREQ(color.color(1), std::string(255, 'x').c_str());
+    EXPECT_STREQ(color.color(3), "inside");
+    EXPECT_STREQ(color.color(4), "white");
+    EXPECT_STREQ(color.color(0), "cut");
+}
+
+TEST_F(Palette, ConvertsNamesFromTheCodingOfTheFile) {
+    givePalette("# japanese_coding:euc\ncolorTable 2 { 1 \"\xa5\xbd\" }");
+    EXPECT_STREQ(BexColor().color(1), "\x83\x5c");
+}
+
 TEST_F(Palette, IsNotValidAfterADamagedFile) {
     const char* damaged[] = {
         "colorTable 5 {\n\t0\t0\t0\t0\t\"black\"\n}\n", // the count of a file that was saved
