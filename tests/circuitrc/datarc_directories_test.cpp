@@ -216,6 +216,12 @@ TEST_F(Directories, LoseTheirLastRowByTwoEmptyTexts) {
     EXPECT_EQ(pureSymb(0), " .");
 }
 
+TEST_F(Directories, KeepTheGapInFrontOfARowThatTwoEmptyTextsTakeAway) {
+    EXPECT_TRUE(rc->symbPath(5, "", ""));
+    EXPECT_EQ(rc->symbPathCount(), 5u);
+    EXPECT_EQ(pureSymb(4), "- /d");
+}
+
 TEST_F(Directories, OfAnEmptiedTableCanNotBeSetAgain) {
     EXPECT_TRUE(rc->contPath(0, "", ""));
     EXPECT_EQ(rc->contPathCount(), 0u);
