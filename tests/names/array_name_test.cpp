@@ -139,6 +139,7 @@ TEST(ArrayName, NeedsFourOfFiveDelimiters) {
         EXPECT_EQ(name.sigCount(), 0);
         EXPECT_STREQ(name.name(), "");
         EXPECT_STREQ(name.arrayName(), "D[1]");
+        EXPECT_EQ(BexChkArrayName("D[", d[0], d[1], d[2], d[3], '-').errType(), BexNetNameNoDelimiter);
         const BexChkArrayName empty("", d[0], d[1], d[2], d[3], '-');
         EXPECT_EQ(empty.errType(), BexNetNameUnchecked);
         EXPECT_EQ(empty.sigCount(), 1);
