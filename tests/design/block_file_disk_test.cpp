@@ -1,4 +1,5 @@
 #include "tests/design/block_file_fixture.h"
+#include "tests/support/child.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -31,6 +32,22 @@ TEST_F(BlockFileDisk, FindTheCircuitAndItsSheets) {
     EXPECT_FALSE(file->isExistCircuit(*rc, 0, 1u));
     EXPECT_FALSE(file->isExistCircuitDir(*rc, 2)) << "no such directory";
     EXPECT_FALSE(file->isExistCircuit(*rc, 2, 1u));
+}
+
+TEST_F(BlockFileDisk, WantASheetThatCanBeRead) {
+    dir.openToAll();
+    dir.makeDirectory("a.cir");
+    writeFile(dir.file("a.cir/001.sht"), "");
+    const auto rc = newDatarc(dir.path().c_str());
+    const BlockPtr file = open("new.blk", BexOpenCreate);
+    file->circuitName("a.cir");
+    const auto found = [&] {
+        return file->isExistCircuit(*rc, 0, 1u) && file->isExistCircuit(*rc, 0, "001.sht") ? 1 : 0;
+    };
+    EXPECT_EQ(Child().asNobody().run(found), 1);
+    setMode(dir.file("a.cir/001.sht"), 0);
+    EXPECT_EQ(Child().asNobody().run([&] { return static_cast<int>(file->isExistCircuit(*rc, 0, 1u)); }), 0);
+    EXPECT_EQ(Child().asNobody().run(found), 0);
 }
 
 TEST_F(BlockFileDisk, WantACircuitToBeNamedLikeOne) {

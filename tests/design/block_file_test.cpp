@@ -200,6 +200,15 @@ TEST_F(BlockFileSymbol, OpensInEveryModeWithoutALookAtTheDisk) {
     EXPECT_TRUE(open("there.smb", BexOpenRead)) << "nor is it read";
 }
 
+TEST_F(BlockFileSymbol, OpensInADirectoryOfTheResourceToo) {
+    const auto rc = newDatarc(dir.path().c_str());
+    const BlockPtr file(BexBlockFile::open(*rc, 0, "missing.smb", BexOpenUpdate));
+    ASSERT_TRUE(file);
+    EXPECT_STREQ(file->circuitName(), "missing.cir");
+    EXPECT_EQ(file->filePath(), dir.path());
+    EXPECT_EQ(BexBlockFile::open(*rc, 1, "missing.smb", BexOpenUpdate), nullptr) << "no such directory";
+}
+
 TEST_F(BlockFileSymbol, IsKnownByItsSuffixInAnyCase) {
     const BlockPtr file = open("Adder.SMB", BexOpenRead);
     ASSERT_TRUE(file);
