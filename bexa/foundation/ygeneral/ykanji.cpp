@@ -58,6 +58,20 @@ long classOf(std::string_view text, std::size_t at, std::size_t length, bool euc
 
 } // namespace
 
+std::string kanjiClasses(std::string_view text) {
+    const bool euc = Ylocale() == 513;
+    const ByteSet& leads = euc ? eucLeadBytes : shiftJisLeadBytes;
+    std::string classes(text.size(), '\0');
+    std::size_t at = 0;
+    while (const std::size_t length = characterLength(text, at, leads)) {
+        const long first = classOf(text, at, length, euc);
+        classes[at] = static_cast<char>(first);
+        if (length == 2) classes[at + 1] = static_cast<char>(first + 1);
+        at += length;
+    }
+    return classes;
+}
+
 } // namespace bexa::detail
 
 using namespace bexa::detail;

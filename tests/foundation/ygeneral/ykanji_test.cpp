@@ -15,6 +15,9 @@ std::string classesOf(const std::string& text) {
     for (int i = 0; i <= static_cast<int>(text.size()); ++i) {
         classes += static_cast<char>('0' + YCheckKanji(text.c_str(), i));
     }
+    std::string inOneWalk = bexa::detail::kanjiClasses(text);
+    for (char& kanjiClass : inOneWalk) kanjiClass = static_cast<char>('0' + kanjiClass);
+    EXPECT_EQ(inOneWalk + "0", classes);
     return classes;
 }
 
