@@ -1,5 +1,5 @@
-# Installation: the library, every header under its path in the repository, and the two ways to find
-# them, find_package(bexa) and pkg-config.
+# Installation: the library, every header under its path in the repository, the message catalogue, and the
+# two ways to find them, find_package(bexa) and pkg-config.
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/bexa")
@@ -12,6 +12,10 @@ install(TARGETS bexa EXPORT bexaTargets
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/bexa/"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/bexa"
   FILES_MATCHING PATTERN "*.h")
+# With YDSROOT=<prefix>/share/bexa the library finds its texts.
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/data/msg"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/bexa"
+  FILES_MATCHING PATTERN "*.rsc")
 
 install(EXPORT bexaTargets NAMESPACE bexa:: DESTINATION "${package_dir}")
 configure_package_config_file(

@@ -29,6 +29,11 @@ endfunction()
 file(REMOVE_RECURSE "${SCRATCH}")
 run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --config "${CONFIGURATION}" --prefix "${SCRATCH}/first")
 file(RENAME "${SCRATCH}/first" "${prefix}")
+foreach(language IN ITEMS eng jpn)
+  if(NOT EXISTS "${prefix}/${DATADIR}/bexa/msg/${language}/bexa.rsc")
+    message(FATAL_ERROR "no message catalogue in the language '${language}'")
+  endif()
+endforeach()
 
 cmake_language(CALL "build_with_${WAY}")
 
