@@ -64,6 +64,8 @@
 #include "bexa/names/signal_name.h"
 
 #include "bexa/props/numeric_text.h"
+#include "bexa/props/prop_spec_file.h"
+#include "bexa/props/prop_spec_records.h"
 #include "bexa/props/prop_value.h"
 #include "bexa/props/prop_value_type.h"
 #include "bexa/props/search_condition.h"
