@@ -68,6 +68,7 @@
 #include "bexa/props/prop_spec_records.h"
 #include "bexa/props/prop_value.h"
 #include "bexa/props/prop_value_type.h"
+#include "bexa/props/property_codes.h"
 #include "bexa/props/search_condition.h"
 
 #include "bexa/design/block_file.h"

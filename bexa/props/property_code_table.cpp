@@ -1,0 +1,137 @@
+#include "bexa/props/property_code_table.h"
+
+namespace bexa::detail {
+
+namespace {
+
+constexpr std::string_view blanksAndQuotes = " \t\n\"\\";
+constexpr std::string_view quotes = "\"\\";
+
+constexpr auto Base = PropertyOrigin::BaseSystem;
+constexpr auto Other = PropertyOrigin::Other;
+
+// To add a property: a row for each object type that has it. Of rows with one name and type the first counts.
+constexpr PropertyCode table[] = {
+    // clang-format off
+    // name                        type                  origin  double  delimiter  refused
+    {"defaultPower",               BexSheetObject,        Base,   true,   true,      blanksAndQuotes},
+    {"defaultGround",              BexSheetObject,        Base,   true,   true,      blanksAndQuotes},
+    {"partName",                   BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"reference",                  BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"cdbName",                    BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"function",                   BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"componentName",              BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"partNumber",                 BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"isvGate",                    BexComponentObject,    Base,   true,   true,      blanksAndQuotes},
+    {"pinLabel",                   BexComponentPinObject, Base,   true,   true,      blanksAndQuotes},
+    {"pinNumber",                  BexComponentPinObject, Base,   true,   true,      blanksAndQuotes},
+    {"io",                         BexComponentPinObject, Base,   true,   true,      blanksAndQuotes},
+    {"isCommonTerminal",           BexComponentPinObject, Base,   true,   true,      blanksAndQuotes},
+    {"pinType",                    BexComponentPinObject, Base,   true,   true,      blanksAndQuotes},
+    {"isAcceptNet",                BexComponentPinObject, Base,   true,   true,      blanksAndQuotes},
+    {"netLabel",                   BexNetObject,          Base,   true,   true,      blanksAndQuotes},
+    {"global",                     BexNetObject,          Base,   true,   true,      blanksAndQuotes},
+    {"netKind",                    BexNetObject,          Base,   true,   true,      blanksAndQuotes},
+    {"netLabel",                   BexBusObject,          Base,   true,   true,      blanksAndQuotes},
+    {"global",                     BexBusObject,          Base,   true,   true,      blanksAndQuotes},
+    {"netKind",                    BexBusObject,          Base,   true,   true,      blanksAndQuotes},
+    {"compComment",                BexComponentObject,    Other,  false,  false,     quotes},
+    {"compGroup",                  BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"compFix",                    BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"layoutName",                 BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"footprintA",                 BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"footprintB",                 BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"placementLayer",             BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"placementAngle",             BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"originalName",               BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"pa_phase",                   BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"pa_lock",                    BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"rmbsType",                   BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"reusedFile",                 BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"reusedComp",                 BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"ICX_PART_MODEL",             BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"decoupleDist",               BexComponentObject,    Other,  true,   true,      blanksAndQuotes},
+    {"pinComment",                 BexComponentPinObject, Other,  false,  false,     quotes},
+    {"testPin",                    BexComponentPinObject, Other,  true,   true,      blanksAndQuotes},
+    {"driverKind",                 BexComponentPinObject, Other,  true,   true,      blanksAndQuotes},
+    {"pinFix",                     BexComponentPinObject, Other,  true,   true,      blanksAndQuotes},
+    {"pinOrder",                   BexComponentPinObject, Other,  true,   true,      blanksAndQuotes},
+    {"ICX_SERIES",                 BexComponentPinObject, Other,  true,   true,      blanksAndQuotes},
+    {"ICX_PORT_TYPE",              BexComponentPinObject, Other,  true,   true,      blanksAndQuotes},
+    {"netComment",                 BexNetObject,          Other,  false,  false,     quotes},
+    {"colorId",                    BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"patternWidth",               BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"shieldWidth",                BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"viaCountForFanout",          BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"maxXtalk",                   BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"voldAmplitude",              BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"riseTime",                   BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"duty",                       BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"period",                     BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"ICX_CLASS",                  BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"voltage",                    BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"minImpedance",               BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"shieldGap",                  BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"daisy",                      BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"netMaxLeng",                 BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"netMinLeng",                 BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"maxDelay",                   BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"maxImpedance",               BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"pinpairMaxLeng",             BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"pinpairMinLeng",             BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"pinpairSameLeng",            BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"midDriven",                  BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"netPriority",                BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"maxStab",                    BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"shield",                     BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"shieldSname",                BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"priorLayer1",                BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"priorLayer2",                BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"TBranch",                    BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"loop",                       BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"innerNetParallelWidth",      BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"innerNetParallelLeng",       BexNetObject,          Other,  true,   true,      blanksAndQuotes},
+    {"netComment",                 BexBusObject,          Other,  false,  false,     quotes},
+    {"colorId",                    BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"patternWidth",               BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"shieldWidth",                BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"viaCountForFanout",          BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"maxXtalk",                   BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"voldAmplitude",              BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"riseTime",                   BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"duty",                       BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"period",                     BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"ICX_CLASS",                  BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"voltage",                    BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"minImpedance",               BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"shieldGap",                  BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"daisy",                      BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"netKind",                    BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"netMaxLeng",                 BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"netMinLeng",                 BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"maxDelay",                   BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"maxImpedance",               BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"pinpairMaxLeng",             BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"pinpairMinLeng",             BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"pinpairSameLeng",            BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"midDriven",                  BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"netPriority",                BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"maxStab",                    BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"shield",                     BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"shieldSname",                BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"priorLayer1",                BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"priorLayer2",                BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"TBranch",                    BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"loop",                       BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"innerNetParallelWidth",      BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    {"innerNetParallelLeng",       BexBusObject,          Other,  true,   false,     blanksAndQuotes},
+    // clang-format on
+};
+
+} // namespace
+
+std::span<const PropertyCode> propertyCodes() {
+    return table;
+}
+
+} // namespace bexa::detail
