@@ -77,3 +77,5 @@
 #include "bexa/design/comp_kind.h"
 #include "bexa/design/net_list.h"
 #include "bexa/design/reference_headers.h"
+
+#include "bexa/batch/simple_property.h"
