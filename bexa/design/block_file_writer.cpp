@@ -2,6 +2,7 @@
 
 #include "bexa/design/block_file.h"
 #include "bexa/foundation/rsc_header.h"
+#include "bexa/foundation/text_cursor.h"
 
 #include <string_view>
 
@@ -11,13 +12,9 @@ namespace {
 
 constexpr int columns = 2;
 
-// A missing text is written like an empty one.
-std::string_view viewOf(const char* text) {
-    return text ? text : std::string_view();
-}
-
 } // namespace
 
+// A missing text is written like an empty one.
 RscText blockText(const BexBlockFile& file, const BexBlockPinAssignTable& pins) {
     RscText text;
     text.text(BexYioRsc::getHeaderString().view());

@@ -20,6 +20,9 @@ constexpr bool isWhite(char c) {
 constexpr bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
+constexpr bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
 // A to Z become a to z; every other byte stays.
 constexpr char lowerCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;

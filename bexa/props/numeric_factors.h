@@ -40,8 +40,4 @@ constexpr const NumericFactor* factorAt(std::string_view text) {
     return word == mil.word ? &mil : nullptr;
 }
 
-constexpr bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 } // namespace bexa::detail

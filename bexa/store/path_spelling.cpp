@@ -210,10 +210,6 @@ void spellNewest(GrowingPath& path) {
     }
 }
 
-constexpr bool isLetter(char c) {
-    return lowerCase(c) >= 'a' && lowerCase(c) <= 'z';
-}
-
 } // namespace
 
 YString canonicalPath(std::string_view path) {

@@ -1,18 +1,17 @@
 #include "bexa/foundation/ygeneral/yglob.h"
 
 #include "bexa/foundation/kanji_bytes.h"
+#include "bexa/foundation/text_cursor.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <optional>
 
+using bexa::detail::viewOf;
+
 namespace {
 
 using Code = unsigned;
-
-std::string_view viewOf(const char* text) {
-    return text ? std::string_view(text) : std::string_view();
-}
 
 // Takes the character at the front off, single or double-byte; the text must not be empty.
 Code takeCharacter(std::string_view& text) {

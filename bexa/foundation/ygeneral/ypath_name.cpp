@@ -2,6 +2,7 @@
 
 #include "bexa/foundation/kanji_bytes.h"
 #include "bexa/foundation/os.h"
+#include "bexa/foundation/text_cursor.h"
 #include "bexa/foundation/ygeneral/yenviron.h"
 
 #include <string>
@@ -10,20 +11,14 @@
 
 namespace os = bexa::detail::os;
 
+using bexa::detail::isLetter;
+using bexa::detail::viewOf;
 namespace {
 
 constexpr std::string_view separator = "/";
 
 constexpr bool isSeparator(char c) {
     return c == '/' || c == '\\';
-}
-
-constexpr bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-std::string_view viewOf(const char* text) {
-    return text ? std::string_view(text) : std::string_view();
 }
 
 bool beginsWithDrive(std::string_view path) {

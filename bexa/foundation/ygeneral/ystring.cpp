@@ -1,23 +1,19 @@
 #include "bexa/foundation/ygeneral/ystring.h"
 
+#include "bexa/foundation/text_cursor.h"
+
 #include <algorithm>
 #include <charconv>
 #include <functional>
 #include <new>
 #include <ostream>
 
-namespace {
+using bexa::detail::viewOf;
 
-std::string_view viewOf(const char* text) {
-    return text ? std::string_view(text) : std::string_view();
-}
+namespace {
 
 std::string_view viewOf(const char* text, unsigned long length) {
     return text ? std::string_view(text, length) : std::string_view();
-}
-
-bool isWhiteSpace(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 // The decimal digits of a number, in a place of their own.
@@ -167,7 +163,7 @@ int YString::rindex(char c, int start) const noexcept {
 }
 
 unsigned long YString::removeSpace() noexcept {
-    char* end = std::remove_if(data(), data() + length(), isWhiteSpace);
+    char* end = std::remove_if(data(), data() + length(), bexa::detail::isWhite);
     setLength(static_cast<std::size_t>(end - data()));
     return 1;
 }

@@ -1,20 +1,16 @@
 #include "bexa/foundation/ygeneral/ystring_compare.h"
 
+#include "bexa/foundation/text_cursor.h"
 #include "bexa/foundation/ygeneral/ystring.h"
 
 #include <algorithm>
 #include <optional>
 #include <string_view>
 
+using bexa::detail::isDigit;
+using bexa::detail::viewOf;
+
 namespace {
-
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-std::string_view viewOf(const char* text) {
-    return text ? std::string_view(text) : std::string_view();
-}
 
 // Takes the digits off the front of a text.
 std::string_view takeDigits(std::string_view& text) {

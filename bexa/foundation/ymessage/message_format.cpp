@@ -1,11 +1,15 @@
 #include "bexa/foundation/ymessage/message_format.h"
 
+#include "bexa/foundation/text_cursor.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cwchar>
 #include <iterator>
 #include <type_traits>
+
+using bexa::detail::isDigit;
 
 namespace {
 
@@ -97,10 +101,6 @@ void print(std::string& out, const Conversion& conversion, Arguments& arguments)
 
 constexpr bool isFlag(char c) {
     return std::string_view("-+ #0").find(c) != std::string_view::npos;
-}
-
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 int takeNumber(std::string_view& text) {
