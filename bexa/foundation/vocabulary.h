@@ -25,6 +25,7 @@ enum BexObjectType : int {
     BexBusSegmentObject = 13,
     BexPropertyViewerObject = 14,
     BexComponentPinObject = 15,
+    BexSymbolPinObject = 16, // has no word
     BexNetNodeObject = 17,
     BexSheetObject = 18,  // has no word
     BexSymbolObject = 19, // has no word
