@@ -59,6 +59,8 @@
 
 #include "bexa/names/array_name.h"
 #include "bexa/names/bundle_name.h"
+#include "bexa/names/id_name.h"
+#include "bexa/names/id_path_name.h"
 #include "bexa/names/name_compression.h"
 #include "bexa/names/name_result.h"
 #include "bexa/names/signal_name.h"
