@@ -59,6 +59,7 @@
 
 #include "bexa/names/array_name.h"
 #include "bexa/names/bundle_name.h"
+#include "bexa/names/counting_name.h"
 #include "bexa/names/id_name.h"
 #include "bexa/names/id_path_name.h"
 #include "bexa/names/name_compression.h"
