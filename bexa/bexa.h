@@ -58,6 +58,7 @@
 #include "bexa/envrc/sheet_tables.h"
 
 #include "bexa/names/array_name.h"
+#include "bexa/names/bit_text.h"
 #include "bexa/names/bundle_name.h"
 #include "bexa/names/counting_name.h"
 #include "bexa/names/id_name.h"
