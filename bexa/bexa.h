@@ -63,6 +63,8 @@
 #include "bexa/names/counting_name.h"
 #include "bexa/names/id_name.h"
 #include "bexa/names/id_path_name.h"
+#include "bexa/names/multi_property.h"
+#include "bexa/names/multi_reference.h"
 #include "bexa/names/name_compression.h"
 #include "bexa/names/name_result.h"
 #include "bexa/names/signal_name.h"
