@@ -68,6 +68,7 @@
 #include "bexa/names/name_compression.h"
 #include "bexa/names/name_result.h"
 #include "bexa/names/signal_name.h"
+#include "bexa/names/zone_string.h"
 
 #include "bexa/props/numeric_text.h"
 #include "bexa/props/prop_spec_file.h"
