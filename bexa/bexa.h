@@ -55,6 +55,7 @@
 
 #include "bexa/envrc/editor_modes.h"
 #include "bexa/envrc/envrc.h"
+#include "bexa/envrc/option_values.h"
 #include "bexa/envrc/sheet_tables.h"
 
 #include "bexa/names/array_name.h"
