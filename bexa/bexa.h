@@ -79,10 +79,13 @@
 #include "bexa/props/property_codes.h"
 #include "bexa/props/search_condition.h"
 
+#include "bexa/design/angle_snap.h"
 #include "bexa/design/block_file.h"
 #include "bexa/design/block_pins.h"
+#include "bexa/design/canvas.h"
 #include "bexa/design/circuit_creator.h"
 #include "bexa/design/comp_kind.h"
+#include "bexa/design/figures.h"
 #include "bexa/design/net_list.h"
 #include "bexa/design/reference_headers.h"
 

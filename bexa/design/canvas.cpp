@@ -1,0 +1,4 @@
+#include "bexa/design/canvas.h"
+
+BexCanvas::~BexCanvas() = default;
+BexCdb::~BexCdb() = default;
