@@ -1,5 +1,6 @@
 # Run by CTest, see CMakeLists.txt beside it for the variables. What the program prints must be the text of
-# ${EXPECTED}.txt, and each file of the directory ${EXPECTED} must be what the program leaves behind.
+# ${EXPECTED}.txt, and each file of the directory ${EXPECTED} must be what the program leaves behind. Beside those it
+# leaves no file that wasn't there.
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${SCRATCH}")
@@ -19,4 +20,10 @@ foreach(file IN LISTS files)
   execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${SCRATCH}/${file}" "${EXPECTED}/${file}"
     COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
+file(GLOB_RECURSE before RELATIVE "${SAMPLE}" "${SAMPLE}/*")
+file(GLOB_RECURSE after RELATIVE "${SCRATCH}" "${SCRATCH}/*")
+list(REMOVE_ITEM after ${before} ${files})
+if(after)
+  message(FATAL_ERROR "the program left behind ${after}")
+endif()
 file(REMOVE_RECURSE "${SCRATCH}")
