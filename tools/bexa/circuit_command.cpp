@@ -1,13 +1,13 @@
 #include "tools/bexa/circuit_resource.h"
 #include "tools/bexa/circuit_settings.h"
 #include "tools/bexa/command.h"
+#include "tools/bexa/listed_resources.h"
 
 #include "bexa/foundation/ygeneral/ypath_name.h"
 #include "bexa/store/access_snapshot.h"
 #include "bexa/store/circuit_dir.h"
 #include "bexa/store/data_file.h"
 #include "bexa/store/file.h"
-#include "bexa/store/rcpath.h"
 
 #include <algorithm>
 #include <string>
@@ -85,28 +85,6 @@ Json partsOf(const std::string& circuit, const Output& out) {
         const YString path = BexDataFile::fileName(circuit.c_str(), part.type, nullptr);
         const BexSecFile found(path);
         add(part, path, stateOf(found.IsExist() != 0, found.IsReadable() != 0));
-    }
-    return rows;
-}
-
-// The resources that the circuit's own list names: how each directory is written, and the file it leads to.
-Json listedResources(const std::string& circuit, Output& out) {
-    Json rows = Json::array();
-    PathList list;
-    try {
-        list = openPathList(circuit);
-    } catch (const Problem& problem) {
-        out.report(problem);
-    }
-    for (int i = 0; list && i < list->rcpathCount(); ++i) {
-        BexRcpath entry;
-        list->rcpath(i, entry);
-        const YString file =
-            BexDataFile::fileName(circuit.c_str(), BexDataFile::BexResourceByPath, entry.name);
-        rows.push_back({{"name", out.resourceText(entry.name)},
-                        {"path", out.resourceText(entry.rawPath)},
-                        {"leadsTo", out.systemText(file)},
-                        {"present", BexFile::isExist(file) != 0}});
     }
     return rows;
 }

@@ -8,12 +8,14 @@ namespace tool {
 namespace {
 
 // In the order of the help.
+// clang-format off
 constexpr AddCommand commands[] = {
     addCircuitCommand,
     addBlockCommand,
     addNameCommand,
     addKindsCommand,
 };
+// clang-format on
 
 } // namespace
 
