@@ -57,18 +57,36 @@ Program::Program()
     std::filesystem::copy(BEXA_SAMPLE, directory_.file("sample"), std::filesystem::copy_options::recursive);
 }
 
-int Program::start(const Arguments& arguments, int out, int err) const {
+int Program::become(const Arguments& arguments, const Variables& variables, int out, int err) const {
     std::vector<std::string> command{"bexa"};
     command.insert(command.end(), arguments.begin(), arguments.end());
     std::vector<std::string> environment;
-    for (const auto& [name, value] : environment_) environment.push_back(name + '=' + value);
-    return Child().run([&] {
-        if (::chdir(file("").c_str()) != 0) return Child::threw;
-        setDescriptor(STDOUT_FILENO, out);
-        setDescriptor(STDERR_FILENO, err);
-        ::execve(BEXA_PROGRAM, pointersTo(command).data(), pointersTo(environment).data());
-        return Child::threw;
-    });
+    for (const auto& [name, value] : variables) environment.push_back(name + '=' + value);
+    if (::chdir(file("").c_str()) != 0) return Child::threw;
+    setDescriptor(STDOUT_FILENO, out);
+    setDescriptor(STDERR_FILENO, err);
+    ::execve(BEXA_PROGRAM, pointersTo(command).data(), pointersTo(environment).data());
+    return Child::threw;
+}
+
+int Program::start(const Arguments& arguments, int out, int err) const {
+    Child child;
+    if (asNobody_) child.asNobody();
+    return child.run([&] { return become(arguments, environment_, out, err); });
+}
+
+std::vector<int> Program::runTogether(const std::string& variable, const std::vector<std::string>& values,
+                                      const Arguments& arguments) const {
+    const Descriptor silent = openForWriting("/dev/null");
+    std::vector<Child> children(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        Variables variables = environment_;
+        variables[variable] = values[i];
+        children[i].start([&] { return become(arguments, variables, silent.number(), silent.number()); });
+    }
+    std::vector<int> codes;
+    for (Child& child : children) codes.push_back(child.wait());
+    return codes;
 }
 
 Outcome Program::run(const Arguments& arguments) const {
@@ -103,6 +121,11 @@ int Program::runIntoClosedPipe(const Arguments& arguments) const {
 
 int Program::runWithoutOutput(const Arguments& arguments) const {
     return start(arguments, -1, openForWriting(directory_.file("err")).number());
+}
+
+bool Program::becomeNobody() {
+    asNobody_ = Child().asNobody().run([] { return ::access(BEXA_PROGRAM, X_OK) == 0 ? 0 : 1; }) == 0;
+    return asNobody_;
 }
 
 std::string expected(const std::string& name) {

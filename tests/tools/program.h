@@ -37,6 +37,14 @@ protected:
     int runIntoClosedPipe(const Arguments& arguments) const;
     int runWithoutOutput(const Arguments& arguments) const;
 
+    // The exit codes of runs at the same time, one for each value of the variable.
+    std::vector<int> runTogether(const std::string& variable, const std::vector<std::string>& values,
+                                 const Arguments& arguments) const;
+
+    // The runs to come are the user nobody's, if root runs the test: permissions don't bite for root. False if nobody
+    // can't run the program where it lies.
+    bool becomeNobody();
+
     // A path inside the copy, and a change of a variable for the runs to come.
     std::string file(const std::string& name) const { return directory_.file("sample/" + name); }
     void set(const std::string& variable, const std::string& value) { environment_[variable] = value; }
@@ -44,10 +52,14 @@ protected:
     void unset(const std::string& variable) { environment_.erase(variable); }
 
 private:
+    using Variables = std::map<std::string, std::string>;
     int start(const Arguments& arguments, int out, int err) const;
+    // Becomes the program; returns only if that fails.
+    int become(const Arguments& arguments, const Variables& variables, int out, int err) const;
 
     TempDir directory_;
-    std::map<std::string, std::string> environment_;
+    Variables environment_;
+    bool asNobody_ = false;
 };
 
 // A file of tests/data/tools with the output that is expected. To renew one, run the command of its test in
