@@ -14,6 +14,7 @@ constexpr AddCommand commands[] = {
     addBlockCommand,
     addNameCommand,
     addKindsCommand,
+    addNewCommand,
 };
 // clang-format on
 

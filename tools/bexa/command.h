@@ -28,6 +28,7 @@ void addCircuitCommand(CLI::App& program, Request& request);
 void addBlockCommand(CLI::App& program, Request& request);
 void addNameCommand(CLI::App& program, Request& request);
 void addKindsCommand(CLI::App& program, Request& request);
+void addNewCommand(CLI::App& program, Request& request);
 
 // The arguments as `CLI::App::parse` wants them, the last one first. The parser would take [a,b] for a list and
 // split it, but here brackets belong to names: such an argument gets a NUL at its end, which keeps the parser
