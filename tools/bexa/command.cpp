@@ -11,10 +11,14 @@ namespace {
 // clang-format off
 constexpr AddCommand commands[] = {
     addCircuitCommand,
+    addSheetsCommand,
     addBlockCommand,
     addNameCommand,
     addKindsCommand,
     addNewCommand,
+    addLockCommand,
+    addUnlockCommand,
+    addLocksCommand,
 };
 // clang-format on
 

@@ -25,10 +25,14 @@ void finishCommand(CLI::App& command, Request& request, std::function<void(Outpu
 
 // To add a command: a source of its own, named after it, and here and in command.cpp a line each.
 void addCircuitCommand(CLI::App& program, Request& request);
+void addSheetsCommand(CLI::App& program, Request& request);
 void addBlockCommand(CLI::App& program, Request& request);
 void addNameCommand(CLI::App& program, Request& request);
 void addKindsCommand(CLI::App& program, Request& request);
 void addNewCommand(CLI::App& program, Request& request);
+void addLockCommand(CLI::App& program, Request& request);
+void addUnlockCommand(CLI::App& program, Request& request);
+void addLocksCommand(CLI::App& program, Request& request);
 
 // The arguments as `CLI::App::parse` wants them, the last one first. The parser would take [a,b] for a list and
 // split it, but here brackets belong to names: such an argument gets a NUL at its end, which keeps the parser
