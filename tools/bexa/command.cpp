@@ -19,6 +19,7 @@ constexpr AddCommand commands[] = {
     addLockCommand,
     addUnlockCommand,
     addLocksCommand,
+    addTextCommand,
 };
 // clang-format on
 

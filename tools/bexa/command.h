@@ -33,6 +33,11 @@ void addNewCommand(CLI::App& program, Request& request);
 void addLockCommand(CLI::App& program, Request& request);
 void addUnlockCommand(CLI::App& program, Request& request);
 void addLocksCommand(CLI::App& program, Request& request);
+void addTextCommand(CLI::App& program, Request& request);
+
+// The two commands within `bexa text`.
+void addTextCheckCommand(CLI::App& text, Request& request);
+void addTextConvertCommand(CLI::App& text, Request& request);
 
 // The arguments as `CLI::App::parse` wants them, the last one first. The parser would take [a,b] for a list and
 // split it, but here brackets belong to names: such an argument gets a NUL at its end, which keeps the parser
