@@ -20,6 +20,7 @@ constexpr AddCommand commands[] = {
     addUnlockCommand,
     addLocksCommand,
     addTextCommand,
+    addCsvCommand,
 };
 // clang-format on
 
