@@ -7,7 +7,8 @@ class Use : public Program {};
 
 TEST_F(Use, VersionAndHelpAreGood) {
     EXPECT_EQ(good({"--version"}), "bexa " BEXA_PROGRAM_VERSION "\n");
-    for (const char* command : {"circuit", "block", "name", "kinds"}) {
+    for (const char* command :
+         {"circuit", "sheets", "block", "name", "kinds", "new", "lock", "unlock", "locks", "text", "csv"}) {
         EXPECT_NE(good({"--help"}).find(command), std::string::npos) << command;
         EXPECT_NE(good({command, "--help"}).find("bexa " + std::string(command)), std::string::npos);
     }
@@ -31,6 +32,15 @@ TEST_F(Use, WrongUseIsToldWithTheWayToTheHelp) {
         {{"block", "a.blk", "--pure", "--expanded"},
          "bexa: --pure excludes --expanded: bexa block: see bexa block --help\n"},
         {{"kinds", "a", "--loud"}, "bexa: unknown word --loud: bexa kinds: see bexa kinds --help\n"},
+        {{"new"}, "bexa: PATH.cir is required: bexa new: see bexa new --help\n"},
+        {{"lock"}, "bexa: SHEET is required: bexa lock: see bexa lock --help\n"},
+        {{"text"}, "bexa: A subcommand is required: bexa text: see bexa text --help\n"},
+        {{"text", "convert", "notes.txt"},
+         "bexa: --to is required: bexa text convert: see bexa text convert --help\n"},
+        {{"text", "convert", "notes.txt", "--to", "jis"},
+         "bexa: --to: jis not in {euc,sjis}: bexa text convert: see bexa text convert --help\n"},
+        {{"csv", "parts.csv", "--line", "-1"},
+         "bexa: --line: Value -1 not in range 0 to 2147483647: bexa csv: see bexa csv --help\n"},
         {{"name", "check", "A", "--circuit", "faulty/broken_rcpath.cir"},
          "bexa: the resource path list cannot be read: faulty/broken_rcpath.cir/rcpath: check that you may "
          "read "

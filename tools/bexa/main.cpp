@@ -55,7 +55,7 @@ ExitCode run(const Request& request) {
 }
 
 ExitCode runProgram(int argc, char** argv) {
-    CLI::App program("Looks into the designs of a schematic-capture suite.", "bexa");
+    CLI::App program("Looks into the designs of a schematic-capture suite, and tends them.", "bexa");
     program.set_version_flag("--version", std::string("bexa ") + BexVersion());
     program.require_subcommand(1);
     Request request;
