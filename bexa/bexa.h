@@ -89,4 +89,5 @@
 #include "bexa/design/net_list.h"
 #include "bexa/design/reference_headers.h"
 
+#include "bexa/batch/batch_errors.h"
 #include "bexa/batch/simple_property.h"
