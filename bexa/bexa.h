@@ -90,4 +90,5 @@
 #include "bexa/design/reference_headers.h"
 
 #include "bexa/batch/batch_errors.h"
+#include "bexa/batch/reload_resource.h"
 #include "bexa/batch/simple_property.h"
