@@ -90,5 +90,6 @@
 #include "bexa/design/reference_headers.h"
 
 #include "bexa/batch/batch_errors.h"
+#include "bexa/batch/design_rule_resource.h"
 #include "bexa/batch/reload_resource.h"
 #include "bexa/batch/simple_property.h"
