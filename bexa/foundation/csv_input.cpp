@@ -94,15 +94,33 @@ bool walkRecords(const YString& path, Take take) {
     return true;
 }
 
-// Splits one record. Every rule takes its characters off the front and returns false for a malformed record.
+constexpr bool isLineEnd(char c) {
+    return c == '\n' || c == '\r';
+}
+
+constexpr bool endsPlain(char c) {
+    return c == ',' || c == '"' || isLineEnd(c);
+}
+
+// Splits one record into its items, one behind the other, each with a terminator. Every rule takes its characters off
+// the front and returns false for a malformed record.
 class Splitter {
 public:
-    Splitter(std::string_view record, YString_Array& items) : rest_(record), items_(items) {}
+    explicit Splitter(std::string_view record) : rest_(record) { items_.reserve(record.size() + 1); }
 
     bool split() {
         if (rest_.empty() || rest_.starts_with('\n') || rest_.starts_with("\r\n")) return true;
         while (!done_) {
             if (!takeItem()) return false;
+        }
+        return true;
+    }
+
+    // Calls `take` with each item until it gives false, which is the result then.
+    template <class Take>
+    bool forEachItem(Take take) const {
+        for (std::size_t at = 0; at < items_.size(); at = items_.find('\0', at) + 1) {
+            if (!take(items_.c_str() + at)) return false;
         }
         return true;
     }
@@ -113,56 +131,58 @@ private:
             rest_.remove_prefix(1);
             return takeQuoted();
         }
-        const std::size_t length = std::min(rest_.find_first_of("\",\n\r"), rest_.size());
-        item_.assign(rest_.substr(0, length));
-        rest_.remove_prefix(length);
-        if (rest_.starts_with('"')) return false; // length is not 0 here: the item has begun unquoted
+        takeUpTo(std::find_if(rest_.begin(), rest_.end(), endsPlain));
+        if (rest_.starts_with('"')) return false; // the item has begun unquoted
         endItem();
         return true;
     }
 
     bool takeQuoted() {
-        item_.clear();
         for (;;) {
-            const std::size_t length = std::min(rest_.find('"'), rest_.size());
-            item_.append(rest_.substr(0, length));
-            rest_.remove_prefix(std::min(length + 1, rest_.size()));
+            takeUpTo(std::find(rest_.begin(), rest_.end(), '"'));
+            rest_.remove_prefix(std::min<std::size_t>(rest_.size(), 1));
             if (!rest_.starts_with('"')) break;
-            item_ += '"';
+            items_ += '"';
             rest_.remove_prefix(1);
         }
-        if (!rest_.empty() && rest_.find_first_of(",\n\r") != 0) return false;
+        if (!rest_.empty() && rest_.front() != ',' && !isLineEnd(rest_.front())) return false;
         endItem();
         return true;
     }
 
+    void takeUpTo(std::string_view::const_iterator end) {
+        const auto length = static_cast<std::size_t>(end - rest_.begin());
+        items_ += rest_.substr(0, length);
+        rest_.remove_prefix(length);
+    }
+
     // An item ends at a comma, behind which another one follows, at a line end or at the end of the text.
     void endItem() {
-        items_.end().assign(std::string_view(item_));
+        items_ += '\0';
         done_ = !rest_.starts_with(',');
         if (!done_) rest_.remove_prefix(1);
     }
 
     std::string_view rest_;
-    YString_Array& items_;
-    std::string item_;
+    std::string items_;
     bool done_ = false;
 };
 
 bool splitRecord(std::string_view record, YString_Array& items) {
     items.resize(0);
-    return Splitter(record, items).split();
+    Splitter splitter(record);
+    const bool good = splitter.split();
+    splitter.forEachItem([&items](const char* item) { return items.end().assign(item) != 0; });
+    return good;
 }
 
 } // namespace
 
 unsigned long BexCsvLine::Read(BexCsvItemReader* reader, int /*unused*/) const {
-    YString_Array items;
-    if (!reader || !splitRecord(text_.view(), items)) return 0;
-    for (int i = 0; i < items.size(); ++i) {
-        if (!reader->ReadItem(items.at(i))) return 0;
-    }
-    return 1;
+    if (!reader) return 0;
+    Splitter splitter(text_.view());
+    return splitter.split() &&
+           splitter.forEachItem([reader](const char* item) { return reader->ReadItem(item) != 0; });
 }
 
 BexCsvInput* BexCsvInput::Open(const char* path) {
