@@ -195,7 +195,10 @@ const char* YPathName::getSuffix() const {
 YPathName& YPathName::addSuffix(const char* suffix) {
     const std::string_view added = viewOf(suffix);
     if (added.empty()) return *this;
-    concat((added.starts_with('.') ? "" : ".") + std::string(added));
+    // Put together first: the suffix may be part of this path.
+    std::string dotted(added.starts_with('.') ? "" : ".");
+    dotted += added;
+    concat(dotted);
     return *this;
 }
 
