@@ -24,6 +24,10 @@ TEST(TextForm, SectionsStandBehindTheLines) {
     EXPECT_EQ(shown(R"({"list": ["a", 2], "none": []})"), "list\n  a\n  2\n\nnone\n  none\n");
 }
 
+TEST(TextForm, HeadingsCannotSteerATerminal) {
+    EXPECT_EQ(shown(R"({"\u001b[2J": ["a"]})"), "\\x1b[2J\n  a\n");
+}
+
 TEST(TextForm, AnEmptyDocumentIsAnEmptyText) {
     EXPECT_EQ(shown("{}"), "");
 }

@@ -102,7 +102,8 @@ std::string textOf(const Json& document, Coding coding) {
     std::string sections;
     for (const auto& [key, value] : document.items()) {
         if (value.is_structured()) {
-            sections += '\n' + key + '\n' + linesOf(sectionRows(value, coding), indent, coding);
+            sections +=
+                '\n' + printable(key, coding) + '\n' + linesOf(sectionRows(value, coding), indent, coding);
         } else {
             head.push_back({{key}, {plainText(value, coding)}});
         }
