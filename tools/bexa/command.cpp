@@ -24,11 +24,20 @@ constexpr AddCommand commands[] = {
 };
 // clang-format on
 
+bool takesArguments(const CLI::Option* option) {
+    return option->get_type_size_max() > 0;
+}
+
+std::string guarded(std::string argument) {
+    if (argument.starts_with('[') && argument.ends_with(']')) return argument + '\0';
+    if (argument.starts_with("-.") || argument == "++") return '\0' + argument;
+    return argument;
+}
+
 } // namespace
 
 void finishCommand(CLI::App& command, Request& request, std::function<void(Output&)> work) {
-    for (CLI::Option* option :
-         command.get_options([](const CLI::Option* o) { return o->get_positional(); })) {
+    for (CLI::Option* option : command.get_options(takesArguments)) {
         option->transform([](const std::string& argument) { return unguarded(argument); });
     }
     command.add_flag("--json", request.json, "Print JSON instead of columns");
@@ -37,15 +46,12 @@ void finishCommand(CLI::App& command, Request& request, std::function<void(Outpu
 
 std::vector<std::string> guardedArguments(int argc, char** argv) {
     std::vector<std::string> arguments;
-    for (int i = argc - 1; i > 0; --i) {
-        std::string& argument = arguments.emplace_back(argv[i]);
-        if (!argument.empty() && argument.front() == '[' && argument.back() == ']') argument += '\0';
-    }
+    for (int i = argc - 1; i > 0; --i) arguments.push_back(guarded(argv[i]));
     return arguments;
 }
 
 std::string unguarded(std::string argument) {
-    if (!argument.empty() && argument.back() == '\0') argument.pop_back();
+    std::erase(argument, '\0');
     return argument;
 }
 

@@ -41,8 +41,9 @@ void addTextCheckCommand(CLI::App& text, Request& request);
 void addTextConvertCommand(CLI::App& text, Request& request);
 
 // The arguments as `CLI::App::parse` wants them, the last one first. The parser would take [a,b] for a list and
-// split it, but here brackets belong to names: such an argument gets a NUL at its end, which keeps the parser
-// off and which no argument has of its own. finishCommand makes each option take it away again.
+// split it, -.5 for an option and ++ for the end of a command; here they are names and values. Such an argument gets
+// a NUL, which keeps the parser off and which no argument has of its own. finishCommand makes each option take it
+// away again.
 std::vector<std::string> guardedArguments(int argc, char** argv);
 std::string unguarded(std::string argument);
 
