@@ -15,6 +15,7 @@ constexpr AddCommand commands[] = {
     addBlockCommand,
     addNameCommand,
     addKindsCommand,
+    addValueCommand,
     addNewCommand,
     addLockCommand,
     addUnlockCommand,
