@@ -16,6 +16,7 @@ constexpr AddCommand commands[] = {
     addNameCommand,
     addKindsCommand,
     addValueCommand,
+    addPropCommand,
     addNewCommand,
     addLockCommand,
     addUnlockCommand,
