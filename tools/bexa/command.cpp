@@ -17,6 +17,7 @@ constexpr AddCommand commands[] = {
     addKindsCommand,
     addValueCommand,
     addPropCommand,
+    addPropsCommand,
     addNewCommand,
     addLockCommand,
     addUnlockCommand,

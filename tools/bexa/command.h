@@ -31,6 +31,7 @@ void addNameCommand(CLI::App& program, Request& request);
 void addKindsCommand(CLI::App& program, Request& request);
 void addValueCommand(CLI::App& program, Request& request);
 void addPropCommand(CLI::App& program, Request& request);
+void addPropsCommand(CLI::App& program, Request& request);
 void addNewCommand(CLI::App& program, Request& request);
 void addLockCommand(CLI::App& program, Request& request);
 void addUnlockCommand(CLI::App& program, Request& request);
