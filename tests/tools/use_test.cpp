@@ -7,8 +7,8 @@ class Use : public Program {};
 
 TEST_F(Use, VersionAndHelpAreGood) {
     EXPECT_EQ(good({"--version"}), "bexa " BEXA_PROGRAM_VERSION "\n");
-    for (const char* command :
-         {"circuit", "sheets", "block", "name", "kinds", "new", "lock", "unlock", "locks", "text", "csv"}) {
+    for (const char* command : {"circuit", "sheets", "block", "name", "kinds", "value", "prop", "props",
+                                "find", "new", "lock", "unlock", "locks", "text", "csv"}) {
         EXPECT_NE(good({"--help"}).find(command), std::string::npos) << command;
         EXPECT_NE(good({command, "--help"}).find("bexa " + std::string(command)), std::string::npos);
     }
@@ -32,6 +32,8 @@ TEST_F(Use, WrongUseIsToldWithTheWayToTheHelp) {
         {{"block", "a.blk", "--pure", "--expanded"},
          "bexa: --pure excludes --expanded: bexa block: see bexa block --help\n"},
         {{"kinds", "a", "--loud"}, "bexa: unknown word --loud: bexa kinds: see bexa kinds --help\n"},
+        {{"value"}, "bexa: A subcommand is required: bexa value: see bexa value --help\n"},
+        {{"props"}, "bexa: FILE is required: bexa props: see bexa props --help\n"},
         {{"new"}, "bexa: PATH.cir is required: bexa new: see bexa new --help\n"},
         {{"lock"}, "bexa: SHEET is required: bexa lock: see bexa lock --help\n"},
         {{"text"}, "bexa: A subcommand is required: bexa text: see bexa text --help\n"},

@@ -18,6 +18,7 @@ constexpr AddCommand commands[] = {
     addValueCommand,
     addPropCommand,
     addPropsCommand,
+    addFindCommand,
     addNewCommand,
     addLockCommand,
     addUnlockCommand,

@@ -32,6 +32,7 @@ void addKindsCommand(CLI::App& program, Request& request);
 void addValueCommand(CLI::App& program, Request& request);
 void addPropCommand(CLI::App& program, Request& request);
 void addPropsCommand(CLI::App& program, Request& request);
+void addFindCommand(CLI::App& program, Request& request);
 void addNewCommand(CLI::App& program, Request& request);
 void addLockCommand(CLI::App& program, Request& request);
 void addUnlockCommand(CLI::App& program, Request& request);
