@@ -12,46 +12,68 @@ namespace bexa::detail {
 
 namespace {
 
-// number = { white } [ "+" | "-" ] ...; takes it up to the sign and tells whether that is a minus.
+// Takes a sign and tells whether it is a minus.
 bool takeSign(TextCursor& text) {
-    text.skipWhite();
     const bool negative = text.take('-');
     if (!negative) text.take('+');
     return negative;
 }
 
-// The power of ten that the digits of a decimal number begin with, far enough from 0 where the number is out of range.
-long long magnitude(TextCursor text) {
-    text.takeWhile([](char c) { return c == '0'; });
-    const auto whole = static_cast<long long>(text.takeWhile(isDigit).size());
+constexpr bool isZero(char c) {
+    return c == '0';
+}
+constexpr bool isHexDigit(char c) {
+    return isDigit(c) || (lowerCase(c) >= 'a' && lowerCase(c) <= 'f');
+}
+
+// How a number is written, behind its sign and a "0x".
+struct Notation {
+    std::chars_format format;
+    bool (*isDigit)(char);
+    char exponentMark; // in lower case
+    int digitWorth;    // one place in the units of the exponent
+};
+constexpr Notation decimal{std::chars_format::general, isDigit, 'e', 1};
+constexpr Notation hexadecimal{std::chars_format::hex, isHexDigit, 'p', 4};
+
+// The power that the digits of a number begin with, far enough from 0 where the number is out of range.
+long long magnitude(TextCursor text, const Notation& notation) {
+    text.takeWhile(isZero);
+    const auto whole = static_cast<long long>(text.takeWhile(notation.isDigit).size());
     long long zeros = 0;
-    if (text.take('.') && whole == 0) {
-        zeros = static_cast<long long>(text.takeWhile([](char c) { return c == '0'; }).size());
-    }
-    text.takeWhile(isDigit);
-    if (!text.take('e') && !text.take('E')) return whole - zeros;
+    if (text.take('.') && whole == 0) zeros = static_cast<long long>(text.takeWhile(isZero).size());
+    text.takeWhile(notation.isDigit);
+    const long long places = (whole - zeros) * notation.digitWorth;
+    if (lowerCase(text.take()) != notation.exponentMark) return places;
     const bool negative = takeSign(text);
     const long long exponent = text.takeNumber().value_or(0);
-    return whole - zeros + (negative ? -exponent : exponent);
+    return places + (negative ? -exponent : exponent);
 }
 
 // A number without its sign; nothing when none stands here.
-std::optional<double> unsignedReal(TextCursor text) {
-    const bool hex = (text.nextIs("0x") || text.nextIs("0X")) && text.rest().size() > 2;
-    const std::string_view digits = hex ? text.rest().substr(2) : text.rest();
+std::optional<double> unsignedReal(std::string_view text, const Notation& notation) {
     double value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value,
-                                              hex ? std::chars_format::hex : std::chars_format::general);
+    if (text.starts_with('-')) return std::nullopt; // a second sign
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, notation.format);
     if (error == std::errc()) return value;
-    if (error != std::errc::result_out_of_range) return hex ? std::optional(0.0) : std::nullopt;
-    const bool tiny = hex ? digits.find('-') != digits.npos : magnitude(text) <= 0;
-    return tiny ? 0.0 : std::numeric_limits<double>::infinity();
+    if (error != std::errc::result_out_of_range) return std::nullopt;
+    return magnitude(TextCursor(text), notation) <= 0 ? 0.0 : std::numeric_limits<double>::infinity();
+}
+
+// Without a hexadecimal digit or point behind it, a "0x" is the number 0 in front of a letter.
+std::optional<double> unsignedReal(TextCursor text) {
+    if (!text.take("0x") && !text.take("0X")) return unsignedReal(text.rest(), decimal);
+    if (!isHexDigit(text.peek()) && text.peek() != '.') return 0.0;
+    // No number holds "+-", but std::from_chars of libstdc++ 12 takes it for the minus of an exponent.
+    const std::string_view digits = text.rest().substr(0, text.rest().find("+-"));
+    return unsignedReal(digits, hexadecimal).value_or(0.0);
 }
 
 } // namespace
 
 int numberOf(std::string_view text) {
     TextCursor cursor(text);
+    cursor.skipWhite();
     const bool negative = takeSign(cursor);
     long long number = 0;
     for (char digit : cursor.takeWhile(isDigit)) {
@@ -63,8 +85,9 @@ int numberOf(std::string_view text) {
 
 double realOf(std::string_view text) {
     TextCursor cursor(text);
+    cursor.skipWhite();
     const bool negative = takeSign(cursor);
-    const std::optional<double> value = cursor.peek() == '-' ? std::nullopt : unsignedReal(cursor);
+    const std::optional<double> value = unsignedReal(cursor);
     if (!value) return 0.0;
     return negative ? -*value : *value;
 }

@@ -97,12 +97,47 @@ TEST(RealOf, ReadsAsTheCLibraryDoes) {
                              "0x1p-99999",
                              "1e99999999999",
                              "1e-99999999999",
-                             "0.00000000000000000001e320"}) {
+                             "0.00000000000000000001e320",
+                             "0x-1",
+                             "-0x-e",
+                             "0x+1",
+                             "0xinf",
+                             "0xnan",
+                             "0x.p1",
+                             "0X.F",
+                             "0x1p",
+                             "0x1p-1074",
+                             "0x1p99999 -",
+                             "-0x1P99999-1",
+                             "0xfp+-1",
+                             "0x1e5"}) {
         const double expected = std::atof(text);
         EXPECT_EQ(realOf(text), expected) << text;
         EXPECT_EQ(std::signbit(realOf(text)), std::signbit(expected)) << text;
     }
     EXPECT_TRUE(std::isnan(realOf("nan")));
+}
+
+TEST(RealOf, TellsWhatIsTooLargeFromWhatIsTooSmall) {
+    const std::string zeros(2000, '0');
+    const std::string texts[] = {
+        "1" + zeros,
+        "0." + zeros + "1",
+        "1" + zeros + "e-1",
+        "0." + zeros + "1e1",
+        "1" + zeros + "e -9999", // the exponent has no blank, so there is none
+        "0x1" + zeros,
+        "0x." + zeros + "1",
+        "0x1" + zeros + "p-1",
+        "0x." + zeros + "1p1",
+        "0x." + zeros + "1p8004",
+        "-0x1" + zeros + "p-8000",
+    };
+    for (const std::string& text : texts) {
+        const double expected = std::atof(text.c_str());
+        EXPECT_EQ(realOf(text), expected) << text.substr(0, 4) << "..." << text.substr(text.size() - 6);
+        EXPECT_EQ(std::signbit(realOf(text)), std::signbit(expected)) << text;
+    }
 }
 
 TEST(RealOf, DoesNotHeedTheLocale) {
