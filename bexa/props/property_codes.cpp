@@ -34,7 +34,7 @@ constexpr TypeGroup typeGroups[] = {
     {BexBusStringObject,    BexBusObject},
     {BexBusSegmentObject,   BexBusObject},
     {BexComponentPinObject, BexComponentPinObject},
-    {BexObjectType(16),     BexComponentPinObject}, // a number without a name
+    {BexSymbolPinObject,    BexComponentPinObject},
     {BexSheetObject,        BexSheetObject},
     // clang-format on
 };

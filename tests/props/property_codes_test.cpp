@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
+#include <string_view>
 
 using namespace bexa::test;
 
@@ -37,11 +37,45 @@ protected:
     EnvGuard locale_{"LC_ALL", "ja_JP.SJIS"};
 };
 
+// The rows with these marks in their order, "type name name ..." for each run of rows of one type.
+std::string rowsOf(bexa::detail::PropertyOrigin origin, bool doubleByte, bool delimiter,
+                   std::string_view refused) {
+    std::string rows;
+    int type = -1;
+    for (const auto& code : bexa::detail::propertyCodes()) {
+        if (code.origin != origin || code.refused != refused) continue;
+        if (code.refusesDoubleByte != doubleByte || code.refusesDelimiter != delimiter) continue;
+        if (code.type != type) rows += (rows.empty() ? "" : "\n") + std::to_string(code.type);
+        rows.append(" ").append(code.name);
+        type = code.type;
+    }
+    return rows;
+}
+
 TEST(PropertyCodeTable, HasItsRows) {
-    std::map<int, int> count;
-    for (const auto& code : bexa::detail::propertyCodes()) ++count[code.type];
-    const std::map<int, int> expected = {{7, 23}, {8, 36}, {11, 37}, {15, 13}, {18, 2}};
-    EXPECT_EQ(count, expected);
+    using enum bexa::detail::PropertyOrigin;
+    constexpr char blanksToo[] = " \t\n\"\\";
+    const std::string signals =
+        " colorId patternWidth shieldWidth viaCountForFanout maxXtalk voldAmplitude riseTime "
+        "duty period ICX_CLASS voltage minImpedance shieldGap daisy";
+    const std::string nets = " netMaxLeng netMinLeng maxDelay maxImpedance pinpairMaxLeng pinpairMinLeng "
+                             "pinpairSameLeng midDriven netPriority maxStab shield shieldSname priorLayer1 "
+                             "priorLayer2 TBranch loop innerNetParallelWidth innerNetParallelLeng";
+    EXPECT_EQ(rowsOf(BaseSystem, true, true, blanksToo),
+              "18 defaultPower defaultGround\n"
+              "7 partName reference cdbName function componentName partNumber isvGate\n"
+              "15 pinLabel pinNumber io isCommonTerminal pinType isAcceptNet\n"
+              "8 netLabel global netKind\n"
+              "11 netLabel global netKind");
+    EXPECT_EQ(rowsOf(Other, false, false, "\"\\"),
+              "7 compComment\n15 pinComment\n8 netComment\n11 netComment");
+    EXPECT_EQ(
+        rowsOf(Other, true, true, blanksToo),
+        "7 compGroup compFix layoutName footprintA footprintB placementLayer placementAngle originalName "
+        "pa_phase pa_lock rmbsType reusedFile reusedComp ICX_PART_MODEL decoupleDist\n"
+        "15 testPin driverKind pinFix pinOrder ICX_SERIES ICX_PORT_TYPE\n8" +
+            signals + nets);
+    EXPECT_EQ(rowsOf(Other, true, false, blanksToo), "11" + signals + " netKind" + nets);
     EXPECT_EQ(bexa::detail::propertyCodes().size(), 111U);
 }
 
