@@ -78,6 +78,13 @@ TEST_F(SimpleProperty, RowsThatAreNoListOrTooShortArePassedOver) {
     EXPECT_EQ(properties_.getStr("bare", 1, 1), nullptr);
 }
 
+TEST_F(SimpleProperty, OnlyTheFirstCellOfARowIsLookedAt) {
+    ASSERT_TRUE(read("T 2 { ( a 1 ) ( b 2 ) ( c 3 ) ( a 4 ) }"));
+    EXPECT_STREQ(properties_.getStr("a", 1, 2), "1");
+    EXPECT_EQ(properties_.getStr("b", 1, 2), nullptr);
+    EXPECT_STREQ(properties_.getStr("c", 1, 2), "3");
+}
+
 TEST_F(SimpleProperty, ANullWordIsAnEmptyOne) {
     ASSERT_TRUE(read("T { ( a 1 ) ( \"\" 2 ) }"));
     EXPECT_STREQ(properties_.getStr(nullptr, 1, 2), "2");
