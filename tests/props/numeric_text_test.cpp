@@ -349,6 +349,7 @@ TEST(NumericText, ReadsTheNearestDouble) {
         {"4.7n", 4.7e-9}, {"5mil", 127e-6}, {"1e400", HUGE_VAL}, {"-1e400", -HUGE_VAL}, {"1e-400", 0.0},
         {"0.1", 0.1},     {"1e23", 1e23},   {"1_2", 1.0},        {"1e5k", 1e5},         {"12e", 12.0},
         {"abc", 0.0},     {"1k5", 1.0},     {" 3", 3.0},         {"3Q", 3.0},           {"0x10", 16.0},
+        {"0x-1", 0.0},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(toDouble(row.text), row.value) << row.text;

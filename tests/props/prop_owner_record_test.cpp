@@ -158,6 +158,14 @@ TEST_F(PropOwner, BreakingATableDropsTheTablesBelowIt) {
     EXPECT_EQ(namesOf(owner_), "a t1 t2 b");
 }
 
+TEST_F(PropOwner, BreakingATableDropsItsRowsForFilesAndForTablesItDoesNotHold) {
+    table()->appendPropSpecRec("F")->valueType(BexPropTypeRefFile);
+    table()->appendPropSpecRec("G")->valueType(BexPropTypeRefTable);
+    owner_->breakRefTable("T");
+    EXPECT_EQ(namesOf(owner_), "a t1 t2 b");
+    EXPECT_EQ(owner_->propSpec("F"), nullptr);
+}
+
 TEST_F(PropOwner, BreakingATableMayLeaveANameTwice) {
     owner_->appendPropSpecRec("t1")->viewerColor(7);
     owner_->breakRefTable("T");
