@@ -22,7 +22,7 @@ public:
         PowerBox = 1024,
     };
 
-    // True for 0, so also for words that are all unknown.
+    // Kept on purpose: true for 0, so also for words that are all unknown.
     static unsigned long isFig(unsigned bits);
     static unsigned long isFig(const char* words);
 

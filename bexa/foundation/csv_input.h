@@ -51,8 +51,10 @@ public:
 };
 
 // A file of records. The object holds the path alone: every operation reads the file from its start. Control
-// characters other than the tab vanish from the records, NUL bytes too. A quote that is still open at the end of the
-// file takes its record with it, without a notice.
+// characters other than the tab vanish from the records, NUL bytes too.
+//
+// Kept on purpose: a quote that is still open at the end of the file takes its record with it, without a notice; and
+// the first byte of a double-byte character is dropped where its line ends.
 class BEXA_API BexCsvInput {
 public:
     // Always an object, to be ended by Close; the file is not looked at. A null path counts as empty.

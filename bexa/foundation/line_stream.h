@@ -45,10 +45,10 @@ public:
     unsigned long fail() const;
 
     // Reads `count` lines of any length and gives them as one text, joined by line feeds, without the last one's; 0
-    // lines are an empty text. The end of the file stops the reading, and what was gathered is the result: after the
-    // last line a line feed that was already put behind it stays. eof() tells the end, never a null result: null means
-    // a closed stream. A NUL byte in the file hides the rest of the text from its reader; the lines behind it are not
-    // touched by that. The text is valid until the next line is read.
+    // lines are an empty text. The end of the file stops the reading, and what was gathered is the result. eof() tells
+    // the end, never a null result: null means a closed stream. A NUL byte in the file hides the rest of the text from
+    // its reader; the lines behind it are not touched by that. The text is valid until the next line is read.
+    // Kept on purpose: the line feed that was put behind the last line stays if no other line follows.
     const char* getlines(unsigned int count);
     // The same without conversion.
     const char* getpurelines(unsigned int count);

@@ -14,6 +14,8 @@ public:
     // What a file declares. Both codings become that of the process and `version`, which may be null, "2.1x"; then
     // the comments at the start of the file may change `fileCoding` and `version`. A file that cannot be read leaves
     // it at that.
+    // Kept on purpose: the first blank line ends the search, other lines don't. A header behind a blank line is not
+    // seen.
     static void getRscJCoding(const char* path, YioRscJCoding& fileCoding, YioRscJCoding& localCoding,
                               YString* version);
 };

@@ -111,6 +111,12 @@ TEST_F(LineStream, ReadsSeveralLinesAsOne) {
     }
 }
 
+TEST_F(LineStream, ALineFeedPutBehindTheLastLineStays) {
+    EXPECT_STREQ(open("a\nb").getlines(3), "a\nb\n");
+    EXPECT_STREQ(open("a\nb").getlines(9), "a\nb\n") << "a single one";
+    EXPECT_STREQ(open("a\nb").getlines(2), "a\nb");
+}
+
 TEST_F(LineStream, LineOfAnyLengthComesBackWhole) {
     for (const std::size_t length : {253U, 254U, 255U, 508U, 600U, 100000U}) {
         const std::string line(length, 'x');

@@ -90,6 +90,14 @@ TEST(RscHeader, DeclaresTheCoding) {
     for (const auto& row : rows) EXPECT_EQ(foundIn(row.content).file, row.coding) << row.meaning;
 }
 
+TEST(RscHeader, BehindABlankLineIsNotSeen) {
+    const EnvGuard locale("LC_ALL", "C");
+    const std::string declared = "# japanese_coding:euc\n";
+    EXPECT_EQ(foundIn("key : 1\n" + declared).file, YioRscEuc) << "a line that is not blank ends nothing";
+    EXPECT_EQ(foundIn("\n" + declared).file, YioRscSjis);
+    EXPECT_EQ(foundIn(" \t\n" + declared).file, YioRscSjis);
+}
+
 TEST(RscHeader, DeclaresTheVersion) {
     const struct {
         const char* content;
