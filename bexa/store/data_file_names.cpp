@@ -108,6 +108,8 @@ bool findInPathList(const YPathName& circuit, const char* name, BexRcpath& entry
 
 // The value of the variable that a path begins with, and what stands behind it. The circuit's own path has a variable
 // that isn't in the environment.
+// Kept on purpose: the list takes that variable for one of the environment, so it stands for the circuit only where
+// nothing stands behind it: unless the environment has one, `$CIRCUIT_PATH/lib` comes here as `/lib`.
 YPathName resolveVariable(const YPathName& circuit, std::string_view path) {
     const std::size_t end = std::min(path.find('/'), path.size());
     const std::string variable(path.substr(1, end - 1));

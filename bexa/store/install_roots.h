@@ -98,6 +98,7 @@ public:
     // Empty for any other type, and for a null name where one is needed.
     YString fileName(Type type, const char* name) const;
     // What a path is, by its last component and suffix. PlainFile for a null path and for everything unknown.
+    // Kept on purpose: the personal directory is known as "hk8800/ds" alone, not by the path that fileName() gives.
     Type fileType(const char* path) const;
 
     // BexFile::access and BexFile::isExist of the path that `fileName` gives; -1 and false if that is empty.

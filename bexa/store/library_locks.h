@@ -5,8 +5,8 @@
 #include "bexa/export.h"
 #include "bexa/store/sheet_locks.h"
 
-// Writes the lock file, over whatever lock stands there: ask BexLcdbIsLocked first. 1 if it could be opened for
-// writing, 0 otherwise and for a null path.
+// Writes the lock file. 1 if it could be opened for writing, 0 otherwise and for a null path.
+// Kept on purpose: it writes over whatever lock stands there, so ask BexLcdbIsLocked first.
 BEXA_API unsigned long BexLcdbLock(const void* owner, const char* path);
 
 // Whether somebody else has locked the library. 1 for a null path. Where a lock file can be read `info` gets its

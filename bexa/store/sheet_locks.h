@@ -43,10 +43,10 @@ BEXA_API unsigned long BexSelfLocked(const void* owner, const BexLockInfo& info)
 
 // Locks a sheet, or counts one more holder within this process. 0 if somebody else holds it or the lock file cannot be
 // written. Of several processes that race for a sheet exactly one creates the lock file, which appears with all its
-// content at once. A lock of one's own that is there already, left behind or taken by another process, is joined: its
-// file stays behind at the last unlock. A local sheet counts as locked without anything being done.
-// Kept on purpose: a lock file that can't be read looks free, and is joined; and while this process holds the sheet, it
-// counts further holders even if somebody has taken the lock file away.
+// content at once. A local sheet counts as locked without anything being done.
+// Kept on purpose: a lock of one's own that is there already, left behind or taken by another process, is joined, and
+// its file stays behind at the last unlock; a lock file that can't be read looks free, and is joined; and while this
+// process holds the sheet, it counts further holders even if somebody has taken the lock file away.
 BEXA_API unsigned long BexLock(const void* owner, LexSheetType type, const char* path);
 
 // Takes back one BexLock; the last one removes the lock file, unless it was joined. 0 if there is no lock file, this
