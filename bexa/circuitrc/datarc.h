@@ -69,8 +69,8 @@ public:
     // A null or empty name stores "noname.cir".
     void currentName(const char* name);
     // A path that ends in ".cir" (in any case of letters) is split into directory and name; any other becomes
-    // the directory, with the name "noname.cir"; null stores "." and "noname.cir". Unlike open(), nothing
-    // else is tested.
+    // the directory, with the name "noname.cir"; null stores "." and "noname.cir". Kept on purpose: unlike
+    // open(), nothing else is tested.
     void currentDir(const char* dir);
 
     // ---- Scaling by the factor of the unit in use
@@ -275,8 +275,8 @@ public:
     unsigned long fillStyle(unsigned int index, unsigned long type, double pitch1, double pitch2,
                             double angle1, double angle2, const char* name);
     // Rows 0 to 511 for symbols and contents, 0 to 255 for component libraries. An empty path becomes "."; an
-    // empty name with an empty path removes the row if it is the last one, save row 0 of the libraries. Note
-    // the order: the setters take the name first, the readers give the path first. Kept on purpose: rows of a
+    // empty name with an empty path removes the row if it is the last one, save row 0 of the libraries.
+    // Kept on purpose: the setters take the name first, though the readers give the path first; and rows of a
     // gap are named "-" and take the expanded path of row 0, those of the libraries the one of the contents.
     unsigned long symbPath(unsigned int index, const char* name, const char* path);
     unsigned long contPath(unsigned int index, const char* name, const char* path);

@@ -41,7 +41,7 @@ struct DatarcFields {
     BexTextSizeTable textTable =
         tableOf<BexTextSizeTable>(BexTextSizeElem(10.0, 10.0, 0.0, 0.0, 0.0, "def", "-", "-"));
     BexLineWidthTable lineWidth = tableOf<BexLineWidthTable>(0.0);
-    // The two last styles hold the same numbers on purpose and differ only by name.
+    // Kept on purpose: the two last styles hold the same numbers and differ only by name.
     BexLineStyleTable lineStyleTable = tableOf<BexLineStyleTable>(
         BexLineStyleElem(0.0, 0.0, 0.0, "solid"), BexLineStyleElem(10.0, 10.0, 0.0, "dash"),
         BexLineStyleElem(10.0, 2.0, 5.0, "dash1"), BexLineStyleElem(10.0, 2.0, 5.0, "dash2"));

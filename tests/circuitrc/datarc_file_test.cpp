@@ -200,6 +200,41 @@ TEST_F(DatarcFile, DropsTheKeysThatAreNeverWritten) {
     EXPECT_EQ(saved(*rc), golden());
 }
 
+TEST_F(DatarcFile, PassesTheTablesOfOlderFilesOver) {
+    const Resource rc = loaded("precisionTable 4 { 0 \"mil\" 40 1 }\nprecisionTblNo : 1\n"
+                               "colorTable 5 { 0 1 2 3 \"ink\" }\npropDispNum : 1\n");
+    ASSERT_TRUE(rc);
+    EXPECT_EQ(rc->propDispNum(), 1) << "what stands behind them is read";
+    EXPECT_EQ(rc->encode(1.0), 1000);
+    EXPECT_EQ(rc->precisionNumber(), 0u);
+    for (const char* key : {"precision", "colorTable"}) EXPECT_EQ(saved(*rc).find(key), std::string::npos);
+}
+
+TEST_F(DatarcFile, GivesOnlyTheFrameColourOfSymbolsItsBuiltInValueBack) {
+    const Resource rc = loaded("defaultSymbFrameColor : 99\ndefaultFrameColor : 99\n");
+    ASSERT_TRUE(rc);
+    EXPECT_EQ(rc->defaultSymbFrameColor(), 13u);
+    EXPECT_EQ(rc->defaultFrameColor(), 0u);
+}
+
+TEST_F(DatarcFile, IsNotWrittenWithTheSimpleDisplayForItsTwoCharactersAlone) {
+    const std::string characters = "busNSimpleDispSepChar : \"+\"\nbusNSimpleDispCrownChar : \"^\"\n";
+    const Resource alone = loaded(characters);
+    ASSERT_TRUE(alone);
+    EXPECT_EQ(saved(*alone).find("busNSimpleDisp"), std::string::npos);
+    const Resource whole = loaded(characters + "busNSimpleDispFlag : 0\n");
+    ASSERT_TRUE(whole);
+    EXPECT_NE(saved(*whole).find("busNSimpleDispSepChar : \"+\"\n"), std::string::npos);
+}
+
+TEST_F(DatarcFile, CanNotSwitchOffTheSimpleArrayOfTheEnvironment) {
+    const EnvGuard simpleArray("YDS_SIMPLE_ARRAY", "1");
+    const Resource rc = loaded("simpleArray : NO\n");
+    ASSERT_TRUE(rc);
+    EXPECT_EQ(rc->simpleArrayMode(), 1u);
+    EXPECT_NE(saved(*rc).find("simpleArray : YES\n"), std::string::npos);
+}
+
 TEST_F(DatarcFile, ToleratesAMissingMarkButNotAMissingComponentType) {
     const Resource rc = loaded("vmarkStr 1\npropDispNum : 4\n");
     ASSERT_TRUE(rc);

@@ -88,6 +88,11 @@ TEST_F(Rows, AreBuiltIn) {
     EXPECT_EQ(rc->lcdbPathCount(), 1u);
 }
 
+TEST_F(Rows, OfTheTwoLastLineStylesDifferOnlyByName) {
+    EXPECT_EQ(lineStyle(*rc, 2), "10000 2000 5000 dash1");
+    EXPECT_EQ(lineStyle(*rc, 3), "10000 2000 5000 dash2");
+}
+
 TEST_F(Rows, AreRefusedAtAndBeyondTheCount) {
     for (unsigned int index : {0u, 0x7fffffffu, 0xffffffffu}) {
         EXPECT_EQ(unit(*rc, index < 1 ? 1 : index), "none");
