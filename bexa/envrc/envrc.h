@@ -133,6 +133,7 @@ public:
     unsigned int pvDispMode() const; // propertyDraw
     long pvOffsetFromObjX() const;
     long pvOffsetFromObjY() const;
+    // Kept on purpose: spelt so here, while the key and the variable say "Unvisible".
     unsigned long doNotSelectUnivisiblePbox() const;
 
     // ---- Lines, circles, texts
@@ -238,10 +239,10 @@ public:
     //   0 to less than 100000     pvOffsetFromObjX and Y, circleRadius, zoneOffsetX and Y
     //   above 0, below 100000     zonePitchX and Y
     unsigned long set(const char* key, double value);
-    // Texts, of which null counts as empty, and words as they stand in the file. A file knows no escapes, so a text with
-    // a quote reads back only up to it, and one that ends in a quote makes the file unreadable. zipText and
-    // doNotSelectUnvisiblePbox are written from then on.
-    // Kept on purpose: swapSConnMode takes any text and stores 0 unless it is "cpin".
+    // Texts, of which null counts as empty, and words as they stand in the file. zipText and doNotSelectUnvisiblePbox
+    // are written from then on.
+    // Kept on purpose: a file knows no escapes, so a text with a quote reads back only up to it, and one that ends in a
+    // quote makes the file unreadable; and swapSConnMode takes any text and stores 0 unless it is "cpin".
     unsigned long set(const char* key, const char* value);
     // zoneStartTextX and Y: a letter or digit, stored in upper case.
     unsigned long set(const char* key, char value);

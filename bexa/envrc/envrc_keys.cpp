@@ -78,6 +78,8 @@ constexpr EnvrcLoadRule mended(EnvrcRange sound, double replacement) {
 constexpr EnvrcSetRule noSetter{EnvrcSetRule::NoSetter};
 constexpr EnvrcSetRule any{EnvrcSetRule::Any};
 constexpr EnvrcSetRule alphanumeric{EnvrcSetRule::Alphanumeric};
+// Kept on purpose: each limit is in or out for itself. Ratios leave 0 out and hold their upper end, pitches and offsets
+// leave theirs out, and cScale leaves 0.01 out.
 constexpr EnvrcRange from(double lowest) {
     return {.lowest = lowest};
 }

@@ -176,6 +176,19 @@ TEST_F(EnvrcFile, IsReadByTheRuleOfEachKey) {
     }
 }
 
+TEST_F(EnvrcFile, MendsABadPitchOnlyBehindAnEntryThatCanNotBeRead) {
+    EXPECT_EQ(valueIn(*loaded("zonePitchX : -5\n"), "zonePitchX"), "-5");
+    EXPECT_EQ(valueIn(*loaded("zonePitchX : -5\nzonePitchX { }\n"), "zonePitchX"), "1");
+    EXPECT_EQ(valueIn(*loaded("zoneOffsetX : -5\n"), "zoneOffsetX"), "-5");
+    EXPECT_EQ(valueIn(*loaded("zoneOffsetX : -5\nzoneOffsetX { }\n"), "zoneOffsetX"), "0");
+}
+
+TEST_F(EnvrcFile, TakesAnUnknownMoveSignForTheNumberItBeginsWith) {
+    EXPECT_EQ(valueIn(*loaded("moveSignMode : 1x\n"), "moveSignMode"), "bus");
+    EXPECT_EQ(valueIn(*loaded("moveSignMode : bus\nmoveSignMode : nothing\n"), "moveSignMode"), "port");
+    EXPECT_EQ(valueIn(*loaded("moveSignMode : 2\n"), "moveSignMode"), std::nullopt);
+}
+
 TEST_F(EnvrcFile, PassesTheKeysOfOlderFilesOver) {
     for (const char* key : {"cursorType", "cursorColor", "rotateRatio", "gridHighlightColor", "CURSORTYPE"}) {
         const Resource envrc = loaded(key + std::string(" : undoLimit\nundoLimit : 3\n"));

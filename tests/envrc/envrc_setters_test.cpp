@@ -91,6 +91,20 @@ TEST_F(EnvrcSetters, TakeRealNumbersWithinTheirLimits) {
     }
 }
 
+TEST_F(EnvrcSetters, HoldOrLeaveOutEachLimitForItself) {
+    const struct {
+        const char* key;
+        double limit;
+        unsigned long taken;
+    } rows[] = {
+        {"panRatio", 0.0, 0},        {"panRatio", 1.0, 1},    {"roundRectCornerRadius", 100000.0, 1},
+        {"zonePitchX", 100000.0, 0}, {"zoneOffsetX", 0.0, 1}, {"zoneOffsetX", 100000.0, 0},
+        {"cScale", 0.01, 0},         {"cScale", 100.0, 1},    {"cAngle", 360.0, 1},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(fresh()->set(row.key, row.limit), row.taken) << row.key << row.limit;
+}
+
 TEST_F(EnvrcSetters, RefuseUnknownWords) {
     const char* const keys[] = {"dFocus",
                                 "areaMode",
