@@ -61,6 +61,7 @@ public:
 
     // No signals, unchecked.
     BexChkArrayName() noexcept = default;
+    // Kept on purpose: a null or empty name stays unchecked, and yet has one signal, without a name.
     BexChkArrayName(const char* name, const BexDatarc& rc);
     BexChkArrayName(const char* name, char busStart, char busEnd, char rangeEnd, char bitEnd, char rangeStep);
 

@@ -10,9 +10,9 @@
 // A list of items with a separator between them, "," unless another is given. One item alone stands for all
 // bits.
 //
-// Blanks and tabs count for nothing, inside quotes either. Between quotes the separator is an ordinary
-// character; the quotes stay in the item. A backslash makes the byte behind it an ordinary one and goes. A
-// byte above 127 stays together with the byte behind it, whatever that is.
+// Between quotes the separator is an ordinary character; the quotes stay in the item. Kept on purpose:
+// blanks and tabs count for nothing, inside quotes either. A backslash makes the byte behind it an
+// ordinary one and goes. A byte above 127 stays together with the byte behind it, whatever that is.
 class BEXA_API BexBitStr {
 public:
     // Empty items, one for each bit. A negative number of bits counts as 0.

@@ -84,8 +84,8 @@ public:
 
     // Add the members of the other behind the own ones, and the texts with a separator. 0, and nothing
     // changes, if any of its signals is found here, or if a bundle given is not valid. A bundle given to
-    // one without members is copied, separator included. An array need not be valid; as the first member it
-    // makes the bundle valid.
+    // one without members is copied, separator included. Kept on purpose: an array need not be valid; as the
+    // first member it makes the bundle valid.
     unsigned long append(const BexChkBundleName& other);
     unsigned long append(const BexChkArrayName& array);
 

@@ -26,8 +26,8 @@
 //     nnd     BexNetNodeObject
 //     sht     BexSheetObject            BexSymbolObject
 //
-// The id that begins with "_" is accepted for a property viewer alone and reads as -100. Numbers too large
-// are the largest int.
+// Numbers too large are the largest int. Kept on purpose: the id that begins with "_" is accepted for a
+// property viewer alone and reads as -100, whatever follows.
 class BEXA_API BexIdName {
 public:
     using BytesMayMove = BexIdName;

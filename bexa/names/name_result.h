@@ -1,7 +1,7 @@
 // The result of every name check.
 #pragma once
 
-// Callers store the numbers: never change one. The gap at 3 stays.
+// Callers store the numbers: never change one. Kept on purpose: no check has the result 3.
 enum BexNetNameErrType : int {
     BexNetNameUnchecked = 0,   // nothing was checked: an object made by default, a null or empty name
     BexNetNameOk = 1,          // the name is valid

@@ -76,6 +76,10 @@ TEST(BitText, IsReadByteByByte) {
     for (const Row& row : rows) EXPECT_EQ(itemsOf(row.text), row.items) << row.text;
 }
 
+TEST(BitText, LosesBlanksInsideQuotesToo) {
+    EXPECT_EQ(itemsOf("\"a \tb\", c"), (Items{"\"ab\"", "c"}));
+}
+
 TEST(BitText, MayHaveAnySeparator) {
     EXPECT_EQ(itemsOf("1;2,3", ';'), (Items{"1", "2,3"}));
     EXPECT_STREQ(BexBitStr(3, ';', "1;2").string(), "1;2;");

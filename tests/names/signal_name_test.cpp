@@ -45,6 +45,13 @@ TEST(SignalName, IsTakenApart) {
     }
 }
 
+TEST(NameResult, HasNoNumberThree) {
+    EXPECT_EQ(BexNetNameUnchecked, 0);
+    EXPECT_EQ(BexNetNameOk, 1);
+    EXPECT_EQ(BexNetNameSyntax, 2);
+    EXPECT_EQ(BexNetNameNoDelimiter, 4);
+}
+
 TEST(SignalName, HoldsNothingAfterASyntaxFailure) {
     const char* const names[] = {
         "D[]",    "D[7",    "D7]",   "D]7[",  "D[7]X", "D[1][2]", "A,B",   ",",
