@@ -14,6 +14,7 @@ class BexChkBundleName;
 class BexDatarc;
 
 namespace bexa::detail {
+struct BlockFileProbe; // lets the tests reach what nobody calls
 class BlockFileReader;
 class PinFinder;
 struct RscAccess;
@@ -52,8 +53,9 @@ public:
     // the object stays alive. A null object is legal with BexCloseDiscard.
     static unsigned long close(BexBlockFile* file, BexCloseMode mode, unsigned long pure);
 
-    // Writes the pure table if `pure` is nonzero, otherwise the expanded one. Loading always reads into the pure
-    // table. An object made with BexOpenCreate can be saved more than once; a read-only one never.
+    // Writes the pure table if `pure` is nonzero, otherwise the expanded one. Loading always reads into the pure table.
+    // A read-only object is never saved. Kept on purpose: an object made with BexOpenCreate can be saved more than
+    // once, over whatever stands there by then.
     unsigned long save(unsigned long pure) const;
     // Writes the whole file in place, after the test of `mode`. The object keeps its own path, name and mode.
     unsigned long saveAs(const char* path, const char* name, BexSaveMode mode, unsigned long pure) const;
@@ -121,6 +123,7 @@ public:
     char rangeStepChar() const;
 
 private:
+    friend struct bexa::detail::BlockFileProbe;
     friend class bexa::detail::BlockFileReader;
     friend struct bexa::detail::RscAccess;
     using Text = std::optional<YString>;

@@ -77,7 +77,8 @@ public:
     // become 10 D[0-2]. A row built from several stands for the sum of their signals and keeps the number and the
     // direction of the first. An empty table gives an empty table.
     //
-    // Names that are no array names, missing ones included, all have the empty identifier and therefore join.
+    // Kept on purpose: names that are no array names, missing ones included, all have the empty identifier and
+    // therefore join.
     // Nothing joins if `rc` has no `bitEndChar`.
     BexBlockPinAssignTable press(const BexDatarc& rc);
 

@@ -142,6 +142,7 @@ std::span<const BexCompKind::HeaderKey> BexCompKind::headerKeys() {
     static constexpr HeaderKey keys[] = {
         {"sNetNameHeader", &BexCompKind::netHeader_},
         {"bNetNameHeader", &BexCompKind::busHeader_},
+        // Kept on purpose: the small h of these two.
         {"dBlockRefheader", &BexCompKind::defaultBlockRefHeader_},
         {"dSymbolRefheader", &BexCompKind::defaultSymbRefHeader_},
     };

@@ -7,6 +7,10 @@
 #include <cstdio>
 #include <string>
 
+struct bexa::detail::BlockFileProbe {
+    static bool isSheet(const char* name) { return BexBlockFile::isSheet(name); }
+};
+
 namespace bexa::test {
 namespace {
 
@@ -220,6 +224,18 @@ TEST_F(BlockFileSymbol, HasNoPins) {
     const BlockPtr file = open("missing.smb", BexOpenRead);
     EXPECT_EQ(file->pinAssignTableCount(), 0u);
     EXPECT_EQ(file->pinAssignTable("CLK"), 0u);
+}
+
+TEST_F(BlockFileSymbol, IsSavedLikeAnyBlockUnderItsOwnName) {
+    const BlockPtr file = open("a.smb", BexOpenCreate);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->save(pureTable));
+    EXPECT_THAT(contentOf(dir.file("a.smb")), HasSubstr("circuitName : a.cir\nsymbName : a.smb\n"));
+}
+
+TEST_F(BlockFileNames, OfASheetAreThoseOfABlockToATestThatNobodyCalls) {
+    EXPECT_TRUE(detail::BlockFileProbe::isSheet("a.blk"));
+    EXPECT_FALSE(detail::BlockFileProbe::isSheet("001.sht"));
 }
 
 // ---- Names

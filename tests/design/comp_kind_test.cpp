@@ -91,6 +91,13 @@ TEST_F(CompKind, ReadsAndWritesItsFile) {
     EXPECT_EQ(contentOf(dir_.file("copy")), content);
 }
 
+TEST_F(CompKind, SpellsItsReferenceHeadersWithASmallH) {
+    EXPECT_NE(
+        contentOf(testData("comp_kind/fresh.rsc")).find("\ndBlockRefheader : X\ndSymbolRefheader : SY\n"),
+        std::string::npos);
+    EXPECT_FALSE(Kinds(written("dBlockRefHeader : X\n"), BexOpenRead));
+}
+
 TEST_F(CompKind, ReadsKeysInAnyOrder) {
     const Kinds kinds(written("# comment\nComponentKind 3 { 1 \"c\" \"U\" }\n"
                               "dSymbolRefheader : \"a b\" # quoted\nsNetNameHeader:N\n"),

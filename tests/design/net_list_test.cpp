@@ -242,6 +242,12 @@ TEST_F(NetListFile, BreachesOfTheFormatFailTheLoad) {
     }
 }
 
+TEST_F(NetListFile, TheTextInTheRowOfALabelIsDropped) {
+    const NetList list = read(table("netLabelHeader", "\"OTHER\" 5\n") + table("busLabelHeader", "\"\" 7\n"));
+    ASSERT_TRUE(list);
+    EXPECT_EQ(counters(*list), "SIG5 BUS7 SY1 X1 U1 R1");
+}
+
 TEST_F(NetListFile, ATextTheKindsDoNotHaveIsGoneAtTheNextSave) {
     writeFile(file, table("referenceHeader", "\"NONE\" 5\n\"U\" 3\n"));
     ASSERT_TRUE(BexNetList::close(open(BexOpenUpdate).release(), BexCloseSave));
