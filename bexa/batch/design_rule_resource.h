@@ -40,7 +40,7 @@ public:
     unsigned long load();
     // Writes the user's file, whatever was read. 0 if it can't be opened for writing; a write that fails is not
     // noticed. Kept on purpose: `connectPin` is read and never written, `refdupMode` is written and never read, so
-    // neither survives a save and a load.
+    // neither survives a save and a load; and nothing is quoted, so what is empty or has a blank doesn't read back.
     unsigned long save();
 
     YString_Array checkName;          // the short names: "pin", "node", "fanout" ...

@@ -24,7 +24,8 @@ public:
 
     // Writes the user's file, wherever the settings came from. 0 if it can't be opened for writing; a write that fails
     // is not noticed. Kept on purpose: the two settings of symbol pins are not written, so a saved file never counts
-    // as wholly loaded (isLoadOK), and reading it turns the matching off.
+    // as wholly loaded (isLoadOK), and reading it turns the matching off; and nothing is quoted, so a text with a blank
+    // doesn't read back as it was.
     unsigned long save();
 
     // The state after the last `open`.
@@ -53,7 +54,7 @@ public:
     const YString_Array& dispPartName() const { return dispPartName_; }
     // Three texts, of which the file may leave out the third: it is "always" then. Missing: empty.
     const YString_Array& skipCompByProp() const { return skipCompByProp_; }
-    // 1 if the file says "yes" in any case of letters. Missing: 0. Any other word leaves it as it was.
+    // 1 if the file says "yes" in any case of letters. Missing: 0. Kept on purpose: any other word leaves it as it was.
     unsigned long checkSymbolPinMatching() const { return checkSymbolPinMatching_; }
     // Null when it is empty.
     const char* checkSymbolPinKey() const;
