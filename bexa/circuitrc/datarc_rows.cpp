@@ -22,6 +22,7 @@ using bexa::detail::radiansPerDegree;
 namespace {
 
 // The first index that each table refuses.
+// Kept on purpose: these bind the setters alone. A file may hold more rows, which are read and never set.
 constexpr int precisionLimit = 2;
 constexpr int textSizeLimit = 256;
 constexpr int lineWidthLimit = 5;
@@ -318,6 +319,7 @@ unsigned long BexDatarc::fillStyle(unsigned int index, unsigned long type, doubl
     if (!checkFillStyleTable(row)) return 0;
     if (type > 3 || !isMeasure(pitch1) || !isMeasure(pitch2)) return 0;
     if (!isDirection(angle1) || !isDirection(angle2) || !name) return 0;
+    // Kept on purpose: the first style is no fill whatever type is given; its name is taken.
     const int stored = row == 0 ? 0 : static_cast<int>(type);
     fields_->fillStyleTable[row] = fillStyleRow(stored, pitch1, pitch2, angle1, angle2, name);
     return 1;

@@ -65,6 +65,7 @@ unsigned long BexDatarc::busNSimpleDispMode(const int& flag, char separator, cha
 }
 
 unsigned long BexDatarc::useBusAlias(unsigned long value) {
+    // Kept on purpose: any value is taken, though only 0 and 1 have a word. Any other is written without one.
     fields_->useBusAliasFlag = value;
     fields_->useBusAliasSet = 1;
     return 1;
