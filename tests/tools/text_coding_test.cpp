@@ -42,6 +42,16 @@ TEST(TextCoding, EveryTextBecomesWellFormedUtf8) {
     }
 }
 
+TEST(TextCoding, WhatComesBackAsItWasGoesIntoAnotherCoding) {
+    EXPECT_EQ(fromUtf8("", Coding::ShiftJis), "");
+    EXPECT_EQ(fromUtf8("表 A ｽ", Coding::ShiftJis), "\x95\x5C A \xBD");
+    EXPECT_EQ(fromUtf8("抵抗ｽ", Coding::Euc), "\xC4\xF1\xB9\xB3\x8E\xBD");
+    EXPECT_EQ(fromUtf8("é", Coding::ShiftJis), std::nullopt);
+    EXPECT_EQ(fromUtf8("丂", Coding::Euc), std::nullopt) << "three bytes there";
+    EXPECT_EQ(fromUtf8("A\xE8\xA1", Coding::ShiftJis), std::nullopt) << "half a character";
+    EXPECT_EQ(fromUtf8("\xF0\x9F\x98\x80", Coding::Euc), std::nullopt);
+}
+
 TEST(TextCoding, WidthIsThatOfATerminal) {
     EXPECT_EQ(displayWidth("", Coding::Utf8), 0U);
     EXPECT_EQ(displayWidth("abc", Coding::Utf8), 3U);

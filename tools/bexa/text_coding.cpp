@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 namespace tool {
 namespace {
@@ -114,10 +115,14 @@ void walk(std::string_view text, Coding coding, Take take) {
     }
 }
 
+const char* nameOf(Coding coding) {
+    if (coding == Coding::Utf8) return "UTF-8";
+    return coding == Coding::Euc ? "EUC-JP" : "CP932";
+}
+
 class Converter {
 public:
-    explicit Converter(Coding from)
-        : handle_(iconv_open("UTF-8", from == Coding::Euc ? "EUC-JP" : "CP932")) {}
+    Converter(Coding from, Coding to) : handle_(iconv_open(nameOf(to), nameOf(from))) {}
     ~Converter() {
         if (isOpen()) iconv_close(handle_);
     }
@@ -127,22 +132,17 @@ public:
     // The first character of `text`, which is then taken off, as UTF-8.
     std::string takeCharacter(std::string_view& text, Coding from) {
         const std::size_t length = doubleByteCharacter(text, from).length;
-        std::string result = convert(text.substr(0, length));
-        text.remove_prefix(result == replacement ? 1 : length);
-        return result;
+        const auto result = convert(text.substr(0, length));
+        text.remove_prefix(result ? length : 1);
+        return result.value_or(std::string(replacement));
     }
 
-private:
-    // A platform without these codings leaves the handle closed.
-    bool isOpen() const {
-        return handle_ != reinterpret_cast<iconv_t>(-1); // NOLINT: this is how iconv_open says no
-    }
-
-    std::string convert(std::string_view character) const {
+    // A character of at most four bytes; nothing if it isn't one, or not one of the other coding.
+    std::optional<std::string> convert(std::string_view character) const {
         if (character.size() == 1 && static_cast<unsigned char>(character[0]) < 0x80)
             return std::string(character);
-        if (!isOpen()) return std::string(replacement);
-        std::array<char, 2> in{};
+        if (!isOpen()) return std::nullopt;
+        std::array<char, 4> in{};
         std::array<char, 16> out{};
         std::copy(character.begin(), character.end(), in.begin());
         char* from = in.data();
@@ -151,7 +151,13 @@ private:
         std::size_t room = out.size();
         const bool done =
             iconv(handle_, &from, &left, &to, &room) != static_cast<std::size_t>(-1) && left == 0;
-        return done ? std::string(out.data(), out.size() - room) : std::string(replacement);
+        return done ? std::optional(std::string(out.data(), out.size() - room)) : std::nullopt;
+    }
+
+private:
+    // A platform without these codings leaves the handle closed.
+    bool isOpen() const {
+        return handle_ != reinterpret_cast<iconv_t>(-1); // NOLINT: this is how iconv_open says no
     }
 
     iconv_t handle_;
@@ -202,8 +208,21 @@ std::string toUtf8(std::string_view text, Coding from) {
         });
         return result;
     }
-    for (Converter converter(from); !text.empty();) result += converter.takeCharacter(text, from);
+    for (Converter converter(from, Coding::Utf8); !text.empty();)
+        result += converter.takeCharacter(text, from);
     return result;
+}
+
+std::optional<std::string> fromUtf8(std::string_view text, Coding to) {
+    const Converter converter(Coding::Utf8, to);
+    std::string result;
+    bool good = true;
+    walk(text, Coding::Utf8, [&](const Character& character, std::string_view bytes) {
+        const auto converted = character.valid ? converter.convert(bytes) : std::nullopt;
+        good = good && converted && toUtf8(*converted, to) == bytes;
+        if (good) result += *converted;
+    });
+    return good ? std::optional(std::move(result)) : std::nullopt;
 }
 
 std::string printable(std::string_view text, Coding coding) {

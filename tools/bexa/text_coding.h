@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ bool isUtf8(std::string_view text);
 
 // `text` as well-formed UTF-8. Each byte that begins no character becomes U+FFFD.
 std::string toUtf8(std::string_view text, Coding from);
+
+// UTF-8 text in one of the other codings; nothing if it has a character that doesn't lead back to itself from there.
+std::optional<std::string> fromUtf8(std::string_view text, Coding to);
 
 // `text` with control characters, which could steer the terminal, written as "\x1b" and the like.
 std::string printable(std::string_view text, Coding coding);
