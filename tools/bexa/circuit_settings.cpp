@@ -1,11 +1,10 @@
 #include "tools/bexa/circuit_settings.h"
 
+#include "tools/bexa/degrees.h"
+
 #include "bexa/circuitrc/datarc.h"
 #include "bexa/circuitrc/palette.h"
-#include "bexa/foundation/ygeometry/yangle.h"
 #include "bexa/store/file.h"
-
-#include <cmath>
 
 namespace tool {
 namespace {
@@ -137,11 +136,6 @@ constexpr Setting settings[] = {
 };
 // clang-format on
 
-// What a sum in radians has lost in its last digits is not shown.
-double degrees(const Yangle& angle) {
-    return std::round(angle.degree() * 1e6) / 1e6;
-}
-
 Json unitRow(const BexDatarc& resource, unsigned index, const Output& out) {
     char name[256] = ""; // no file holds units, so the name is one of the library's own
     unsigned factor = 0;
@@ -194,8 +188,8 @@ Json fillStyleRow(const BexDatarc& resource, unsigned index, const Output& out) 
             {"type", type},
             {"pitch1", resource.decode(pitch1)},
             {"pitch2", resource.decode(pitch2)},
-            {"angle1", degrees(angle1)},
-            {"angle2", degrees(angle2)}};
+            {"angle1", degreesOf(angle1)},
+            {"angle2", degreesOf(angle2)}};
 }
 
 // The two readers of a table of directories: what stands in the file, and the directory it leads to.
@@ -257,6 +251,13 @@ void addTables(Json& document, const BexDatarc& resource, const Output& out) {
         document[table.key] = std::move(rows);
     }
     document["colorTable"] = paletteRows(out);
+}
+
+std::vector<std::string> circuitResourceKeys() {
+    std::vector<std::string> keys;
+    for (const Setting& setting : settings) keys.emplace_back(setting.key);
+    for (const Table& table : tables) keys.emplace_back(table.key);
+    return keys;
 }
 
 } // namespace tool

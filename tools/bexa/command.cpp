@@ -25,6 +25,8 @@ constexpr AddCommand commands[] = {
     addLocksCommand,
     addTextCommand,
     addCsvCommand,
+    addEnvCommand,
+    addRcCommand,
 };
 // clang-format on
 

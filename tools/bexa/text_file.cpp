@@ -37,20 +37,6 @@ bool flushToDisk(std::FILE* file) {
 #endif
 }
 
-// The rights to `from`, and its owner as far as one may, for `to`.
-void copyRights(const fs::path& from, const fs::path& to) {
-    std::error_code failed;
-    const fs::file_status status = fs::status(from, failed);
-    if (!fs::exists(status)) return;
-#ifndef _WIN32
-    struct stat state = {};
-    const bool kept =
-        ::stat(from.c_str(), &state) == 0 && ::chown(to.c_str(), state.st_uid, state.st_gid) == 0;
-    static_cast<void>(kept);
-#endif
-    fs::permissions(to, status.permissions(), failed);
-}
-
 // A file beside the one whose place it shall take. It goes with its object unless it has taken that place.
 class Draft {
 public:
@@ -96,6 +82,19 @@ private:
 };
 
 } // namespace
+
+void copyRights(const fs::path& from, const fs::path& to) {
+    std::error_code failed;
+    const fs::file_status status = fs::status(from, failed);
+    if (!fs::exists(status)) return;
+#ifndef _WIN32
+    struct stat state = {};
+    const bool kept =
+        ::stat(from.c_str(), &state) == 0 && ::chown(to.c_str(), state.st_uid, state.st_gid) == 0;
+    static_cast<void>(kept);
+#endif
+    fs::permissions(to, status.permissions(), failed);
+}
 
 Problem cannotRead(const std::string& shown) {
     return unusable("the file cannot be read", shown,

@@ -3,6 +3,7 @@
 #include "tools/bexa/problem.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@ std::string contentOf(const std::string& path, const std::string& shown);
 // to the file stay as they were, and a link leads where it led. Throws a Problem, with everything as it was, if that
 // can't be done.
 void placeContent(const std::string& path, const std::string& shown, std::string_view content);
+
+// Gives the file at `to` the rights to the one at `from`, and its owner as far as one may. Nothing if there is none.
+void copyRights(const std::filesystem::path& from, const std::filesystem::path& to);
 
 // A place in a text. Lines and columns count from 1, columns in bytes; 0 means that there is none to tell.
 struct Place {

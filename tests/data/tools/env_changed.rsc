@@ -1,0 +1,111 @@
+# TALVO HK8800 systems - resource declaration.
+# Resource version:2.1x
+# japanese_coding:sjis
+screenTrap : 5
+panRatio : 0.5
+zoomRatio : 1.25
+adjustRatio : 1.8
+dFocus : mainObject
+areaMode : overLap
+roundRectCornerRadius : 1
+gridTable 5 {
+	0	1	4	10	10
+}
+inputGrid : Off
+echoGrid : On
+gridColor : 0
+symSheetSizeTable 6 {
+	0	"sym"	0	0	10	10
+}
+symSheetSizeColor : 0
+symSheetDispFlag : On
+schSheetSizeTable 8 {
+	0	"sch"	0	0	297	210	0	"waku"
+}
+schSheetAttrTable 3 {
+	0	"title"	"‰¹"
+}
+schSheetSizeColor : 0
+schSheetDispFlag : On
+symbolPath : 0
+cScale : 1
+cPvScaleFlag : On
+cAngle : 360
+cSearchFlag : On
+cCutinFlag : Off
+netInputMode : Manual
+nSearchFlag : On
+busInputMode : Manual
+bSearchFlag : Off
+netTheta : 90
+slide : Off
+mvSearchFlag : Off
+mvPvGridFlag : Off
+cpSearchFlag : Off
+pasteSearchFlag : Off
+deleteWithNet : Off
+netDupCheck : On
+swapSConnMode : coord
+swapSDisconnChgPin : Off
+cpNetLabelIncrement : 1
+cbufWithNetLabel : On
+cbufWithReference : On
+ripperStyle : None
+ripperDir : CW
+pvJustify : lowerLeft
+pvAngle : 0
+pvDispMode : Value
+pvOffsetFromObjX : 2
+pvOffsetFromObjY : 2
+lineInputMode : Manual
+lineTheta : 0
+circleInputMode : center
+circleRadius : 10
+textJustify : lowerLeft
+textAngle : 0
+sPinDispFlag : On
+zonePitchX : 50
+zonePitchY : 50
+zoneStartTextX : B
+zoneStartTextY : 1
+zoneOrigin : UpLeft
+zoneDispFlag : On
+zoneOffsetX : 0
+zoneOffsetY : 0
+zoneOffsetMode : Off
+compIDDispFlag : Off
+netIDDispFlag : Off
+cPinIDDispFlag : Off
+sPinIDDispFlag : Off
+pvIDDispFlag : Off
+backupTime : 10
+undoLimit : 100
+openCheckMarkFlag : On
+openCheckMarkColor : 2
+liftPointCPin : On
+dispRoute : Off
+measureColor : 1
+measureFontForUNIX : "9x15"
+measureFontForWIN : "FixedSys/12/Normal"
+measureDisp : noDisp
+measurePos : movable
+dynamicScroll : On
+chgNetLabelScope : Neighboring
+chgNetLabelDispFlag : On
+chgNetLabelAutoRefMode : Off
+chgNetLabelListHeightSize : 5
+chgNetLabelViewSelectBusLabel : On
+selectNetDialogBootMode : Off
+cpsSelectMode : none
+cpsSearchMode : openSheet
+UnloadedSymbolCheck : load
+UpdatedSymbolCheckFlag : On
+symbDefaultcompType : parts|gate
+saveAreaFlag : On
+BlockCheckTiming : Both
+moveSignMode : bus
+dynPanFlag : Off
+autoSaveRuleCheck : Off
+autoSaveReload : Off
+autoSaveReloadKeyName : "•”•i"
+autoSaveReloadRscFile : ""
