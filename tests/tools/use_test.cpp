@@ -9,7 +9,7 @@ TEST_F(Use, VersionAndHelpAreGood) {
     EXPECT_EQ(good({"--version"}), "bexa " BEXA_PROGRAM_VERSION "\n");
     for (const char* command :
          {"circuit", "sheets", "block", "name", "kinds", "value", "prop", "props", "find", "new", "lock",
-          "unlock", "locks", "text", "csv", "env", "rc"}) {
+          "unlock", "locks", "text", "csv", "env", "rc", "diff"}) {
         EXPECT_NE(good({"--help"}).find(command), std::string::npos) << command;
         EXPECT_NE(good({command, "--help"}).find("bexa " + std::string(command)), std::string::npos);
     }

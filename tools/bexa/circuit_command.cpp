@@ -1,6 +1,7 @@
 #include "tools/bexa/circuit_resource.h"
 #include "tools/bexa/circuit_settings.h"
 #include "tools/bexa/command.h"
+#include "tools/bexa/documents.h"
 #include "tools/bexa/listed_resources.h"
 
 #include "bexa/foundation/ygeneral/ypath_name.h"
@@ -104,7 +105,9 @@ void addResource(Json& document, const std::string& circuit, Output& out) {
     }
 }
 
-void showCircuit(const std::string& path, Output& out) {
+} // namespace
+
+Json circuitDocument(const std::string& path, Output& out) {
     const std::string circuit = circuitAt(path);
     const BexCirDir directory(circuit.c_str());
     Json document = {
@@ -116,17 +119,15 @@ void showCircuit(const std::string& path, Output& out) {
         {"rcpath", listedResources(circuit, out)},
     };
     addResource(document, circuit, out);
-    out.print(document);
+    return document;
 }
-
-} // namespace
 
 void addCircuitCommand(CLI::App& program, Request& request) {
     CLI::App* command =
         program.add_subcommand("circuit", "Shows what a circuit holds, its settings and its tables");
     const auto circuit = std::make_shared<std::string>();
     command->add_option("PATH.cir", *circuit, "The directory of the circuit")->required();
-    finishCommand(*command, request, [circuit](Output& out) { showCircuit(*circuit, out); });
+    finishCommand(*command, request, [circuit](Output& out) { out.print(circuitDocument(*circuit, out)); });
 }
 
 } // namespace tool

@@ -27,6 +27,7 @@ constexpr AddCommand commands[] = {
     addCsvCommand,
     addEnvCommand,
     addRcCommand,
+    addDiffCommand,
 };
 // clang-format on
 

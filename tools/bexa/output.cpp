@@ -56,15 +56,17 @@ void Output::report(const Problem& problem) {
     problems_.push_back(problem);
 }
 
-ExitCode Output::finish() {
+ExitCode Output::code() const {
     ExitCode code = ExitCode::Good;
+    for (const Problem& problem : problems_) code = std::max(code, problem.code());
+    return code;
+}
+
+ExitCode Output::finish() {
     errno = 0;
     if (!writeOut(text_)) problems_.push_back(cannotWrite(errno));
-    for (const Problem& problem : problems_) {
-        writeProblem(problem);
-        code = std::max(code, problem.code());
-    }
-    return code;
+    for (const Problem& problem : problems_) writeProblem(problem);
+    return code();
 }
 
 } // namespace tool

@@ -37,6 +37,9 @@ public:
     // A problem that leaves the rest of the output good. The gravest one decides how the program ends.
     void report(const Problem& problem);
 
+    // How the program would end now.
+    ExitCode code() const;
+
     // Writes everything. An output that can't be written is a problem too.
     ExitCode finish();
 
