@@ -28,6 +28,7 @@ constexpr AddCommand commands[] = {
     addEnvCommand,
     addRcCommand,
     addDiffCommand,
+    addCheckCommand,
 };
 // clang-format on
 

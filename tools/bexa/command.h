@@ -42,6 +42,7 @@ void addCsvCommand(CLI::App& program, Request& request);
 void addEnvCommand(CLI::App& program, Request& request);
 void addRcCommand(CLI::App& program, Request& request);
 void addDiffCommand(CLI::App& program, Request& request);
+void addCheckCommand(CLI::App& program, Request& request);
 
 // The two commands within `bexa text`.
 void addTextCheckCommand(CLI::App& text, Request& request);
