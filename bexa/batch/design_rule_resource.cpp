@@ -254,6 +254,10 @@ DrcResource& DrcResource::operator=(const DrcResource& other) {
 unsigned long DrcResource::load() {
     YString path = userFile();
     if (!Yaccess(path, 0)) path = BexSysFile::fileName(resourceName, BexSysFile::InfoResource);
+    return load(path);
+}
+
+unsigned long DrcResource::load(const char* path) {
     if (!Yaccess(path, 0)) return 0;
     const YioRscFile file(path);
     for (int index = 0; index < checkCount; ++index) readSetting(file, index);

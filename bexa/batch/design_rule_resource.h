@@ -38,6 +38,8 @@ public:
     // before its fault counts. Kept on purpose: `pinKind` and the two arrays of `lackingFocus` are only added to, so
     // loading twice doubles them.
     unsigned long load();
+    // The same for the file at `path`, whoever's it is. Null is a file that doesn't exist.
+    unsigned long load(const char* path);
     // Writes the user's file, whatever was read. 0 if it can't be opened for writing; a write that fails is not
     // noticed. Kept on purpose: `connectPin` is read and never written, `refdupMode` is written and never read, so
     // neither survives a save and a load; and nothing is quoted, so what is empty or has a blank doesn't read back.

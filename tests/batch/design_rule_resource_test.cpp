@@ -86,6 +86,24 @@ TEST_F(DesignRuleResource, TheUsersFileBeatsTheInstallations) {
     EXPECT_EQ(joined(drc.pinKind), "");
 }
 
+TEST_F(DesignRuleResource, AFileThatIsNamedIsReadWhoeverHasAnother) {
+    giveUser(file, "FanOut { ( count mine ) }\nOpenPin { ( pinKind IN ) }");
+    const std::string path = dir.file("named");
+    writeFile(path, "FanOut { ( count named ) }");
+    DrcResource drc;
+    EXPECT_EQ(drc.load(path.c_str()), 1UL);
+    EXPECT_EQ(drc.fanoutCount, "named");
+    EXPECT_EQ(joined(drc.pinKind), "");
+}
+
+TEST_F(DesignRuleResource, ANamedFileThatIsNotThereChangesNothing) {
+    giveUser(file, "FanOut { ( count mine ) }");
+    DrcResource drc;
+    EXPECT_EQ(drc.load(dir.file("nowhere").c_str()), 0UL);
+    EXPECT_EQ(drc.load(nullptr), 0UL);
+    EXPECT_EQ(settingsOf(drc), defaults);
+}
+
 TEST_F(DesignRuleResource, EverySettingIsReadAndWrittenBack) {
     const std::string content = contentOf(testData("batch/every_setting_drccheck.rsc"));
     DrcResource drc = read(content);

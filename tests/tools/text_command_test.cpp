@@ -221,7 +221,7 @@ TEST_F(TextConvert, AProtectedFileStaysAsItIs) {
     EXPECT_EQ(result.code, 2);
     EXPECT_EQ(result.err,
               "bexa: the file is protected against writing: notes.txt: make it writable, or give another "
-              "file with -o\n");
+              "file\n");
     EXPECT_EQ(contentOf(file("notes.txt")), before);
     good({"text", "convert", "--to", "euc", "notes.txt", "-o", "notes.euc"});
 }

@@ -29,6 +29,11 @@ constexpr AddCommand commands[] = {
     addRcCommand,
     addDiffCommand,
     addCheckCommand,
+    addZoneCommand,
+    addCountCommand,
+    addMergeCommand,
+    addDrcCommand,
+    addReloadCommand,
 };
 // clang-format on
 

@@ -43,6 +43,11 @@ void addEnvCommand(CLI::App& program, Request& request);
 void addRcCommand(CLI::App& program, Request& request);
 void addDiffCommand(CLI::App& program, Request& request);
 void addCheckCommand(CLI::App& program, Request& request);
+void addZoneCommand(CLI::App& program, Request& request);
+void addCountCommand(CLI::App& program, Request& request);
+void addMergeCommand(CLI::App& program, Request& request);
+void addDrcCommand(CLI::App& program, Request& request);
+void addReloadCommand(CLI::App& program, Request& request);
 
 // The two commands within `bexa text`.
 void addTextCheckCommand(CLI::App& text, Request& request);

@@ -121,7 +121,7 @@ void placeContent(const std::string& path, const std::string& shown, std::string
     // Renaming would succeed all the same.
     if (isThere && BexFile::access(path.c_str(), 2) != 0) {
         throw unusable("the file is protected against writing", shown,
-                       "make it writable, or give another file with -o");
+                       "make it writable, or give another file");
     }
     const fs::path target = isThere ? fs::canonical(path, failed) : fs::path(path);
     Draft draft(target);

@@ -1,0 +1,3 @@
+noMountReload: YES
+compProperty: VALUE
+dispPartName: ( VALUE partName TOLERANCE )
