@@ -10,6 +10,8 @@ TEST_F(Use, VersionAndHelpAreGood) {
     for (const char* command :
          {"circuit", "sheets", "block", "name", "kinds", "value", "prop", "props", "find", "new", "lock",
           "unlock", "locks", "text", "csv", "env", "rc", "diff"}) {
+         {"circuit", "sheets", "block", "name", "kinds", "value", "prop",  "props", "find", "new",
+          "lock",    "unlock", "locks", "text", "csv",   "zone",  "count", "merge", "drc",  "reload"}) {
         EXPECT_NE(good({"--help"}).find(command), std::string::npos) << command;
         EXPECT_NE(good({command, "--help"}).find("bexa " + std::string(command)), std::string::npos);
     }
@@ -35,6 +37,9 @@ TEST_F(Use, WrongUseIsToldWithTheWayToTheHelp) {
         {{"kinds", "a", "--loud"}, "bexa: unknown word --loud: bexa kinds: see bexa kinds --help\n"},
         {{"value"}, "bexa: A subcommand is required: bexa value: see bexa value --help\n"},
         {{"props"}, "bexa: FILE is required: bexa props: see bexa props --help\n"},
+        {{"zone"}, "bexa: LABEL is required: bexa zone: see bexa zone --help\n"},
+        {{"count", "-V5"}, "bexa: unknown word -V5: bexa count: see bexa count --help\n"},
+        {{"merge", "first"}, "bexa: SECOND is required: bexa merge: see bexa merge --help\n"},
         {{"new"}, "bexa: PATH.cir is required: bexa new: see bexa new --help\n"},
         {{"lock"}, "bexa: SHEET is required: bexa lock: see bexa lock --help\n"},
         {{"text"}, "bexa: A subcommand is required: bexa text: see bexa text --help\n"},

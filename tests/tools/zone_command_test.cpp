@@ -64,6 +64,11 @@ TEST_F(ZoneCommand, AStepBeyondTheZonesIsAFinding) {
     }
 }
 
+TEST_F(ZoneCommand, ANumberThatIsTooLargeIsNotTold) {
+    EXPECT_TRUE(json({"zone", "99999999999999999999"})["number"].is_null());
+    EXPECT_EQ(json({"zone", "9223372036854775806"})["number"], 9223372036854775806);
+}
+
 TEST_F(ZoneCommand, WhatIsNoLabelIsAFinding) {
     for (const char* label : {"A1", "1A", "", "A-1", "A B", "1.5", "\xEF\xBC\xA1"}) {
         const Outcome result = run({"zone", label});

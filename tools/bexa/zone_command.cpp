@@ -32,7 +32,8 @@ void showZone(const Options& options, Output& out) {
     BexZoneString next = zone;
     next += options.step;
     const std::string nextLabel(next);
-    const bool isThere = !nextLabel.empty() && numberOf(zone) != tooLarge && numberOf(next) != tooLarge;
+    const bool isExact = numberOf(zone) != tooLarge;
+    const bool isThere = isExact && !nextLabel.empty() && numberOf(next) != tooLarge;
     if (!isThere) {
         out.report(finding(
             "no zone is " + std::to_string(options.step) + " from " + quoted(label), "the command line",
@@ -40,7 +41,7 @@ void showZone(const Options& options, Output& out) {
     }
     out.print({{"label", label},
                {"style", zone.isAlpha() ? "letters" : "digits"},
-               {"number", numberOf(zone)},
+               {"number", isExact ? Json(numberOf(zone)) : Json()},
                {"step", options.step},
                {"next", isThere ? Json(nextLabel) : Json()}});
 }
