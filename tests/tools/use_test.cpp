@@ -7,11 +7,9 @@ class Use : public Program {};
 
 TEST_F(Use, VersionAndHelpAreGood) {
     EXPECT_EQ(good({"--version"}), "bexa " BEXA_PROGRAM_VERSION "\n");
-    for (const char* command :
-         {"circuit", "sheets", "block", "name", "kinds", "value", "prop", "props", "find", "new", "lock",
-          "unlock", "locks", "text", "csv", "env", "rc", "diff"}) {
-         {"circuit", "sheets", "block", "name", "kinds", "value", "prop",  "props", "find", "new",
-          "lock",    "unlock", "locks", "text", "csv",   "zone",  "count", "merge", "drc",  "reload"}) {
+    for (const char* command : {"circuit", "sheets", "block", "name",   "kinds", "value", "prop", "props",
+                                "find",    "new",    "lock",  "unlock", "locks", "text",  "csv",  "env",
+                                "rc",      "diff",   "check", "zone",   "count", "merge", "drc",  "reload"}) {
         EXPECT_NE(good({"--help"}).find(command), std::string::npos) << command;
         EXPECT_NE(good({command, "--help"}).find("bexa " + std::string(command)), std::string::npos);
     }
