@@ -1,9 +1,9 @@
 #include "bexa/circuitrc/datarc_keys.h"
 
-#include "bexa/foundation/ycore/text_compare.h"
+#include "bexa/foundation/setting_index.h"
+#include "bexa/foundation/text_cursor.h"
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <utility>
 
@@ -129,29 +129,8 @@ constexpr DatarcSetting settings[] = {
 };
 // clang-format on
 
-using Order = std::array<unsigned char, std::size(settings)>;
-
-// Short keys first: most comparisons end at the length.
-constexpr bool sortsBefore(std::string_view a, std::string_view b) {
-    return a.size() != b.size() ? a.size() < b.size() : a < b;
-}
-
-constexpr Order sortedByKey() {
-    Order order{};
-    for (std::size_t i = 0; i < order.size(); ++i) order[i] = static_cast<unsigned char>(i);
-    std::sort(order.begin(), order.end(),
-              [](unsigned char a, unsigned char b) { return sortsBefore(settings[a].key, settings[b].key); });
-    return order;
-}
-
-constexpr Order byKey = sortedByKey();
-
-constexpr bool keysAreUnique() {
-    return std::adjacent_find(byKey.begin(), byKey.end(), [](unsigned char a, unsigned char b) {
-               return settings[a].key == settings[b].key;
-           }) == byKey.end();
-}
-static_assert(keysAreUnique());
+constexpr SettingIndex byKey(settings);
+static_assert(byKey.keysAreUnique());
 
 template <class... Fields>
 constexpr bool holdsOneOf(const DatarcField& field) {
@@ -240,18 +219,12 @@ std::span<const DatarcSetting> datarcSettings() {
 }
 
 const DatarcSetting* findDatarcSetting(std::string_view key) {
-    const auto place =
-        std::lower_bound(byKey.begin(), byKey.end(), key, [](unsigned char row, std::string_view text) {
-            return sortsBefore(settings[row].key, text);
-        });
-    return place != byKey.end() && settings[*place].key == key ? &settings[*place] : nullptr;
+    const DatarcSetting* found = byKey.find(key);
+    return found && found->key == key ? found : nullptr;
 }
 
 const DatarcSetting* findDatarcSettingIgnoringCase(const char* key) {
-    const auto row =
-        std::find_if(std::begin(settings), std::end(settings),
-                     [key](const DatarcSetting& setting) { return Ystricmp(setting.key.data(), key) == 0; });
-    return row != std::end(settings) ? &*row : nullptr;
+    return byKey.find(viewOf(key));
 }
 
 } // namespace bexa::detail

@@ -1,10 +1,9 @@
 #include "bexa/envrc/envrc_keys.h"
 
 #include "bexa/foundation/component_type.h"
-#include "bexa/foundation/text_cursor.h"
+#include "bexa/foundation/setting_index.h"
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <iterator>
 
@@ -222,32 +221,8 @@ constexpr EnvrcSetting settings[] = {
 };
 // clang-format on
 
-using Order = std::array<unsigned char, std::size(settings)>;
-static_assert(std::size(settings) <= UCHAR_MAX);
-
-// Short keys first: most comparisons end at the length.
-constexpr bool sortsBefore(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return a.size() < b.size();
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](char x, char y) { return lowerCase(x) < lowerCase(y); });
-}
-
-constexpr Order sortedByKey() {
-    Order order{};
-    for (std::size_t i = 0; i < order.size(); ++i) order[i] = static_cast<unsigned char>(i);
-    std::sort(order.begin(), order.end(),
-              [](unsigned char a, unsigned char b) { return sortsBefore(settings[a].key, settings[b].key); });
-    return order;
-}
-
-constexpr Order byKey = sortedByKey();
-
-constexpr bool keysAreUnique() {
-    return std::adjacent_find(byKey.begin(), byKey.end(), [](unsigned char a, unsigned char b) {
-               return !sortsBefore(settings[a].key, settings[b].key);
-           }) == byKey.end();
-}
-static_assert(keysAreUnique());
+constexpr SettingIndex byKey(settings);
+static_assert(byKey.keysAreUnique());
 
 template <class... Fields>
 constexpr bool holdsOneOf(const EnvrcField& field) {
@@ -299,11 +274,7 @@ std::span<const EnvrcSetting> envrcSettings() {
 }
 
 const EnvrcSetting* findEnvrcSetting(std::string_view key) {
-    const auto place =
-        std::lower_bound(byKey.begin(), byKey.end(), key, [](unsigned char row, std::string_view text) {
-            return sortsBefore(settings[row].key, text);
-        });
-    return place != byKey.end() && equalIgnoringCase(settings[*place].key, key) ? &settings[*place] : nullptr;
+    return byKey.find(key);
 }
 
 } // namespace bexa::detail
